@@ -1,0 +1,14 @@
+// Firing a shot: the snapshot for Back, the rule state of one shot, the moving cue ball.
+#pragma once
+
+#include "table/game_state.h"
+
+namespace morvane {
+
+void saveTable(GameState& g);
+void prepareShot(GameState& g);
+void launchCueBall(GameState& g);
+// The shot button's handler; zeph fires its shots through it too.
+void cmdShot_Click(GameState& g);
+
+} // namespace morvane

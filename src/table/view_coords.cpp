@@ -1,0 +1,19 @@
+#include "table/view_coords.h"
+
+#include "table/constants.h"
+#include "table/geometry.h"
+
+namespace morvane {
+
+float tableToPixelX(float x) { return float(double(x) * kTableScaleX + kViewMargin); }
+float tableToPixelY(float y) {
+    return float((double(kTableWidth) - y) * kTableScaleY + kViewMargin);
+}
+float pixelToTableX(float px) { return float((double(px) - kViewMargin) / kTableScaleX); }
+float pixelToTableY(float py) {
+    return float(kTableWidth - (double(py) - kViewMargin) / kTableScaleY);
+}
+float clampPixelX(float px) { return maxOf(minOf(px, kAimPixelMaxX), kAimPixelMinX); }
+float clampPixelY(float py) { return maxOf(minOf(py, kAimPixelMaxY), kAimPixelMinY); }
+
+} // namespace morvane

@@ -1,0 +1,14 @@
+// Table units to pixels of the table view and back: a 30 pixel margin and 0.2 pixels a unit.
+#pragma once
+
+namespace morvane {
+
+float tableToPixelX(float x);
+float tableToPixelY(float y);
+float pixelToTableX(float px);
+float pixelToTableY(float py);
+// The aim point's limits in pixels, which are the cushion lines of a ball's centre.
+float clampPixelX(float px);
+float clampPixelY(float py);
+
+} // namespace morvane
