@@ -7,8 +7,8 @@ bash scripts/install-deps.sh
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo > /dev/null
 cmake --build build -j "$(nproc)"
 
-if [ -x build/src/screen/morvane ]; then
-    exec build/src/screen/morvane "$@"
+if [ -x build/bin/morvane ]; then
+    exec build/bin/morvane "$@"
 fi
 
 # Until the window is here, the headless tool plays a break and a few shots and says what happened.
