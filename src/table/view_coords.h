@@ -12,3 +12,12 @@ float clampPixelX(float px);
 float clampPixelY(float py);
 
 } // namespace morvane
+
+namespace morvane {
+
+constexpr int kTwipsPerPixel = 15;
+
+// A size in pixels as a font size in points.
+float pixelsToPoints(int pixels);
+
+} // namespace morvane

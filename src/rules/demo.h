@@ -1,0 +1,14 @@
+// The demo: after 30 idle seconds on the menu zeph plays both sides until a click or the game's
+// end.
+#pragma once
+
+#include "table/game_state.h"
+
+namespace morvane {
+
+void timDemo_Timer(GameState& g);
+void startDemo(GameState& g);
+// A click on the table: in the demo it ends the demo, elsewhere it does nothing.
+void picPool_Click(GameState& g, int index);
+
+} // namespace morvane

@@ -1,0 +1,11 @@
+// The end of a game, by mode: statistics and records in solo play, the winner and the match in
+// versus, the way back to the menu in the demo; and in every mode a fresh rack.
+#pragma once
+
+#include "table/game_state.h"
+
+namespace morvane {
+
+void endGame(GameState& g);
+
+} // namespace morvane

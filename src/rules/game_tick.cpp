@@ -1,0 +1,63 @@
+#include "rules/game_tick.h"
+
+#include "rules/game_over.h"
+#include "rules/next_shot.h"
+#include "rules/shot_judging.h"
+#include "table/break_run.h"
+#include "table/motion.h"
+#include "table/table_queries.h"
+#include "table/timers.h"
+
+namespace morvane {
+
+namespace {
+
+void answerFoul(GameState& g, ShotOutcome foul) {
+    if (g.gameMode != kModeDemo) {
+        const std::string message = foulMessage(g, foul);
+        if (!message.empty())
+            g.ports.screen->showMessage(message);
+    }
+    respotBalls(g);
+    g.foulCount = int16_t(g.foulCount + 1);
+    g.turnCount = int16_t(g.turnCount + 1);
+    g.ballInHand = true;
+}
+
+void finishShot(GameState& g) {
+    setTimerEnabled(g, kTimer1, false);
+    clearMotion(g);
+    g.controls.poolKeepsPicture = true;
+    g.ports.screen->drawTable();
+
+    switch (judgeShot(g)) {
+    case ShotOutcome::CueBallFoul:
+        answerFoul(g, ShotOutcome::CueBallFoul);
+        break;
+    case ShotOutcome::MissFoul:
+        answerFoul(g, ShotOutcome::MissFoul);
+        break;
+    case ShotOutcome::GameOver:
+        endGame(g);
+        return;
+    case ShotOutcome::Legal:
+        if (g.pocketedCount == 0)
+            g.turnCount = int16_t(g.turnCount + 1);
+        break;
+    }
+    setUpNextShot(g);
+}
+
+} // namespace
+
+void Timer1_Timer(GameState& g) {
+    if (g.breakPending)
+        runBreakTick(g);
+    else
+        runFrame(g);
+    g.ports.screen->drawTable();
+    if (isAllStopped(g))
+        finishShot(g);
+}
+
+} // namespace morvane

@@ -1,0 +1,10 @@
+// The game tick: one frame of a rolling shot, and the judging of it once all balls rest.
+#pragma once
+
+#include "table/game_state.h"
+
+namespace morvane {
+
+void Timer1_Timer(GameState& g);
+
+} // namespace morvane

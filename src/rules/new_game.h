@@ -1,0 +1,12 @@
+// A fresh rack with all counters cleared, waiting for the break.
+#pragma once
+
+#include "table/game_state.h"
+
+namespace morvane {
+
+void newGame(GameState& g);
+// The Start entry of the hidden menu (F2).
+void mnuStart_click(GameState& g);
+
+} // namespace morvane

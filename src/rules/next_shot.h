@@ -1,0 +1,17 @@
+// Setting up the next shot once the balls rest: the default aim, the markers, the controls and,
+// when zeph is to shoot, its turn.
+#pragma once
+
+#include "table/game_state.h"
+
+namespace morvane {
+
+// The aim goes to the point where the cue ball would touch the lowest ball on a straight hit.
+void setDefaultAim(GameState& g);
+// shpQBall over the cue ball, shown: the ball may be placed by hand.
+void showCueBallInHand(GameState& g);
+void setUpNextShot(GameState& g);
+// mnuRetry is live in solo play only.
+void updateBackAvailability(GameState& g);
+
+} // namespace morvane

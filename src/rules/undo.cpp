@@ -1,0 +1,68 @@
+#include "rules/undo.h"
+
+#include "rules/new_game.h"
+#include "rules/next_shot.h"
+#include "rules/shot_judging.h"
+#include "table/shot_input.h"
+#include "table/table_queries.h"
+
+namespace morvane {
+
+void undoShot(GameState& g) {
+    if (g.shotCount == 1) {
+        mnuStart_click(g);
+        return;
+    }
+    g.Balls = g.BallsSaved;
+    clearMotion(g);
+    g.ballInHand = g.ballInHandSaved;
+    g.shotCount = int16_t(g.shotCount + 1);
+    g.turnCount = int16_t(g.turnCount + 1);
+    g.foulCount = int16_t(g.foulCount + 1);
+
+    g.controls.poolKeepsPicture = true;
+    g.ports.screen->drawTable();
+    g.ports.screen->refreshPool();
+    g.controls.target.visible = true;
+    g.ports.screen->drawBallNow(kCueBall);
+    g.ports.screen->refreshPool();
+
+    if (getLowestBall(g) != 0) {
+        setDefaultAim(g);
+        g.controls.target.visible = true;
+        if (g.ballInHand)
+            showCueBallInHand(g);
+        else
+            g.controls.qBall.visible = false;
+    }
+    g.ports.screen->drawTray();
+    g.controls.shotEnabled = true;
+    centrePointDot(g);
+    g.ports.screen->refreshPool();
+    g.controls.mnuRetryEnabled = false;
+}
+
+void mnuRetry_Click(GameState& g) {
+    undoShot(g);
+}
+
+std::string getPocketName(int16_t PN) {
+    switch (PN) {
+    case 1:
+        return "左上のポケット";
+    case 2:
+        return "上の真ん中のポケット";
+    case 3:
+        return "右上のポケット";
+    case 4:
+        return "左下のポケット";
+    case 5:
+        return "下の真ん中のポケット";
+    case 6:
+        return "右下のポケット";
+    default:
+        return "";
+    }
+}
+
+} // namespace morvane

@@ -1,0 +1,38 @@
+// The one scheduler of the six timers. The window drives it with real time; tests and the
+// headless tool drive it with virtual time, as fast as the machine allows.
+//
+// A timer fires at most once per due time, late ticks are not made up, and a timer never fires
+// while its own handler is still running (a modal form shown by a handler lets the others tick).
+#pragma once
+
+#include "table/game_state.h"
+
+#include <cstdint>
+
+namespace morvane {
+
+// The intervals of the six timers, all off.
+void initTimers(GameState& g);
+// Calls the handler that belongs to the timer.
+void fireTimer(GameState& g, TimerId timer);
+// Fires every timer that is due at `nowMs`, earliest first, and sets the clock to `nowMs`.
+void runDueTimers(GameState& g, int64_t nowMs);
+// Virtual time: fires every tick up to `untilMs` in the order of their due times.
+void advanceVirtualTime(GameState& g, int64_t untilMs);
+// Virtual time until `done` holds or `limitMs` has passed; returns whether `done` held.
+template <typename Done> bool advanceUntil(GameState& g, int64_t limitMs, Done done);
+
+// The earliest due time of a timer that may fire now, or -1 when none is on.
+int64_t nextDueTime(const GameState& g);
+
+template <typename Done> bool advanceUntil(GameState& g, int64_t limitMs, Done done) {
+    while (!done()) {
+        const int64_t due = nextDueTime(g);
+        if (due < 0 || due > limitMs)
+            return false;
+        runDueTimers(g, due);
+    }
+    return true;
+}
+
+} // namespace morvane

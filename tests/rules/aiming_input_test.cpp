@@ -1,0 +1,85 @@
+// The mouse on the table view: the aim, the cue ball in hand, the grab circle.
+#include "rules/aiming_input.h"
+#include "support/table_setup.h"
+#include "table/view_coords.h"
+
+#include <gtest/gtest.h>
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+constexpr int kLeft = 1;
+constexpr int kRight = 2;
+
+struct Aiming : ::testing::Test {
+    GameState g;
+    void SetUp() override {
+        setTable(g, {{0, 600, 600}, {1, 1790, 600}});
+        g.breakPending = false;
+    }
+    float cueX() const { return tableToPixelX(g.Balls[0].x); }
+    float cueY() const { return tableToPixelY(g.Balls[0].y); }
+};
+
+TEST_F(Aiming, ADragMovesTheAimUnclampedAndTheReleasePullsItBackInside) {
+    picPool_MouseDown(g, kLeft, 300, 100);
+    EXPECT_FLOAT_EQ(g.aimX, pixelToTableX(300));
+    picPool_MouseMove(g, kLeft, 530, 5);
+    EXPECT_FLOAT_EQ(g.aimX, pixelToTableX(530));
+    EXPECT_FLOAT_EQ(g.controls.target.left, 520);
+    picPool_MouseUp(g, kLeft, 530, 5);
+    EXPECT_FLOAT_EQ(g.aimX, kCushionRightX);
+    EXPECT_FLOAT_EQ(g.aimY, kCushionTopY);
+    EXPECT_FLOAT_EQ(g.controls.target.left, 490);
+    EXPECT_FLOAT_EQ(g.controls.target.top, 30);
+}
+
+TEST_F(Aiming, ARightButtonAimsLikeTheLeft) {
+    picPool_MouseDown(g, kRight, 200, 200);
+    EXPECT_FLOAT_EQ(g.aimX, pixelToTableX(200));
+    EXPECT_FLOAT_EQ(g.aimY, pixelToTableY(200));
+}
+
+TEST_F(Aiming, TheCueBallInHandIsTakenOnlyStrictlyInsideItsRadius) {
+    g.ballInHand = true;
+    picPool_MouseDown(g, kLeft, cueX() + 10, cueY()); // exactly 50 units away
+    EXPECT_FALSE(g.draggingCueBall);
+    EXPECT_EQ(g.Balls[0].x, 600);
+    EXPECT_FLOAT_EQ(g.aimX, 650);
+
+    picPool_MouseDown(g, kLeft, cueX() + 9, cueY());
+    EXPECT_TRUE(g.draggingCueBall);
+    EXPECT_FLOAT_EQ(g.Balls[0].x, 645);
+}
+
+TEST_F(Aiming, ACueBallDraggedOffTheTableIsClampedOnReleaseAndRedrawn) {
+    g.ballInHand = true;
+    picPool_MouseDown(g, kLeft, cueX(), cueY());
+    picPool_MouseMove(g, kLeft, 10, 290);
+    EXPECT_FLOAT_EQ(g.controls.qBall.left, 0);
+    EXPECT_FLOAT_EQ(g.Balls[0].x, pixelToTableX(10));
+    picPool_MouseUp(g, kLeft, 10, 290);
+    EXPECT_FLOAT_EQ(g.Balls[0].x, kCushionLeftX);
+    EXPECT_FLOAT_EQ(g.Balls[0].y, kCushionBottomY);
+}
+
+TEST_F(Aiming, OnTheBreakThePressFarFromTheCueBallDoesNothing) {
+    g.breakPending = true;
+    g.aimX = 1790;
+    picPool_MouseDown(g, kLeft, 400, 100);
+    picPool_MouseMove(g, kLeft, 420, 120);
+    picPool_MouseUp(g, kLeft, 420, 120);
+    EXPECT_EQ(g.aimX, 1790);
+    EXPECT_EQ(g.Balls[0].x, 600);
+}
+
+TEST_F(Aiming, AMoveWithNoButtonDoesNothingButCoolsTheLabels) {
+    g.controls.lblMenuHover = {true, false, false};
+    picPool_MouseMove(g, 0, 300, 100);
+    EXPECT_EQ(g.controls.lblMenuHover, (std::array<bool, 3>{false, false, false}));
+    EXPECT_EQ(g.aimX, 0);
+}
+
+} // namespace

@@ -1,0 +1,99 @@
+// Back: the table as it stood before the last shot, paid for on the score.
+#include "rules/modes.h"
+#include "rules/undo.h"
+#include "rules_fixture.h"
+#include "table/table_queries.h"
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+class Back : public RulesTest {
+  protected:
+    // A game with one shot played: the next shot pots ball 1.
+    void secondShotPotsBallOne() {
+        setTable(g, {{0, 1800, 600}, {1, 2200, 1000}, {9, 1000, 300}});
+        g.shotCount = 1;
+        g.turnCount = 1;
+        shootToRest(2200, 1000, 35);
+        ASSERT_FALSE(g.Balls[1].onTable);
+    }
+};
+
+TEST_F(Back, TakesTheShotBackAndCountsAShotATurnAndAFoul) {
+    secondShotPotsBallOne();
+    const BallArray before = g.BallsSaved;
+    undoShot(g);
+    EXPECT_EQ(g.shotCount, 3);
+    EXPECT_EQ(g.turnCount, 2);
+    EXPECT_EQ(g.foulCount, 1);
+    EXPECT_TRUE(g.Balls[1].onTable);
+    for (int n = 0; n < kBallCount; ++n) {
+        EXPECT_EQ(g.Balls[n].x, before[n].x);
+        EXPECT_EQ(g.Balls[n].y, before[n].y);
+        EXPECT_EQ(g.Balls[n].speed, 0);
+    }
+    EXPECT_FALSE(g.controls.mnuRetryEnabled);
+    EXPECT_TRUE(g.controls.target.visible);
+}
+
+TEST_F(Back, TwiceWithoutAShotKeepsTheTableAndChargesAgain) {
+    secondShotPotsBallOne();
+    undoShot(g);
+    const BallArray once = g.Balls;
+    lblMenu_Click(g, 2);
+    EXPECT_EQ(g.shotCount, 4);
+    EXPECT_EQ(g.foulCount, 2);
+    EXPECT_EQ(g.Balls[0].x, once[0].x);
+    EXPECT_EQ(g.Balls[1].onTable, once[1].onTable);
+}
+
+TEST_F(Back, AfterAFoulRestoresBallInHandAsItWasAndCountsTheFoulTwice) {
+    setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
+    g.shotCount = 1;
+    g.ballInHand = true;
+    shootToRest(600, 1100, 50);
+    ASSERT_EQ(g.foulCount, 1);
+    g.ballInHand = false;
+    undoShot(g);
+    EXPECT_TRUE(g.ballInHand);
+    EXPECT_TRUE(g.controls.qBall.visible);
+    EXPECT_EQ(g.foulCount, 2);
+    EXPECT_EQ(g.Balls[0].y, 600);
+}
+
+TEST_F(Back, AfterTheBreakIsAFreshGame) {
+    setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
+    g.shotCount = 1;
+    g.turnCount = 1;
+    g.foulCount = 1;
+    g.gameSeconds = 12;
+    undoShot(g);
+    EXPECT_EQ(g.shotCount, 0);
+    EXPECT_EQ(g.turnCount, 0);
+    EXPECT_EQ(g.foulCount, 0);
+    EXPECT_EQ(g.gameSeconds, 0);
+    EXPECT_TRUE(g.breakPending);
+    EXPECT_EQ(getPocketedString(g), "000000000");
+}
+
+TEST_F(Back, TheLabelRefusesWhileBallsRollOrBeforeTheBreak) {
+    secondShotPotsBallOne();
+    setTimerEnabled(g, kTimer1, true);
+    lblMenu_Click(g, 2);
+    EXPECT_EQ(g.shotCount, 2);
+    setTimerEnabled(g, kTimer1, false);
+    g.breakPending = true;
+    lblMenu_Click(g, 2);
+    EXPECT_EQ(g.shotCount, 2);
+}
+
+TEST(PocketNames, NumbersOutsideOneToSixHaveNoName) {
+    EXPECT_EQ(getPocketName(1), "左上のポケット");
+    EXPECT_EQ(getPocketName(5), "下の真ん中のポケット");
+    EXPECT_EQ(getPocketName(0), "");
+    EXPECT_EQ(getPocketName(7), "");
+}
+
+} // namespace

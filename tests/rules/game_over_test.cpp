@@ -1,0 +1,111 @@
+// The end of a game in each mode, through the tick.
+#include "rules/demo.h"
+#include "rules/modes.h"
+#include "rules_fixture.h"
+#include "table/table_queries.h"
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+class GameOver : public RulesTest {
+  protected:
+    // The nine alone with the cue ball below it, straight into the top middle pocket.
+    void sinkTheNine() {
+        setTable(g, {{0, 1200, 800}, {9, 1200, 1000}});
+        shootToRest(1200, 1000, 60);
+    }
+};
+
+TEST_F(GameOver, ASoloGameShowsItsStatisticsThenRacksAFreshGame) {
+    g.players[0].name = "Tester";
+    screen.onInputBox = [this] { g.players[0].name = "Tester"; };
+    sinkTheNine();
+    ASSERT_FALSE(screen.forms.empty());
+    EXPECT_EQ(screen.forms[0], "frmRecord");
+    EXPECT_TRUE(g.breakPending);
+    EXPECT_EQ(g.shotCount, 0);
+    EXPECT_EQ(g.turnCount, 0);
+    EXPECT_EQ(getPocketedString(g), "000000000");
+    EXPECT_FALSE(isTimerEnabled(g, kTimTimeCounter));
+    EXPECT_TRUE(g.controls.target.visible);
+}
+
+TEST_F(GameOver, AShortSoloGameEntersTheTableUnderTheGivenName) {
+    screen.onInputBox = [this] { g.players[0].name = "Tester"; };
+    sinkTheNine();
+    EXPECT_EQ(screen.forms, (std::vector<std::string>{"frmRecord", "frmInputBox"}));
+    EXPECT_TRUE(g.controls.scoreVisible);
+    EXPECT_EQ(g.soloRecords[1].Turn, 1);
+    EXPECT_EQ(g.soloRecords[1].Shots, 1);
+    EXPECT_EQ(g.soloRecords[1].place, 11);
+}
+
+TEST_F(GameOver, ASoloGameOfElevenTurnsAsksNoName) {
+    g.turnCount = 10;
+    sinkTheNine();
+    EXPECT_EQ(screen.forms, std::vector<std::string>{"frmRecord"});
+    EXPECT_FALSE(g.controls.scoreVisible);
+}
+
+TEST_F(GameOver, AMatchOfOneGameEndsAndTheNextMatchStartsWithPlayerOneToBreak) {
+    g.gameMode = kModeVersus;
+    g.versusCpu = false;
+    g.matchTarget = 1;
+    g.players[0] = {"Ann", false, 0};
+    g.players[1] = {"Bob", true, 0};
+    sinkTheNine();
+    EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob is Winner!"});
+    EXPECT_EQ(screen.forms, std::vector<std::string>{"frmVsResult"});
+    EXPECT_TRUE(g.players[0].hasBreak);
+    EXPECT_FALSE(g.players[1].hasBreak);
+    EXPECT_EQ(g.players[0].gamesWon, 0);
+    EXPECT_EQ(g.players[1].gamesWon, 0);
+    EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
+    EXPECT_EQ(g.zephLevel, 1) << "two people leave zeph's level alone";
+}
+
+TEST_F(GameOver, AGameWonByZephMidMatchLetsZephBreakTheNext) {
+    g.gameMode = kModeVersus;
+    g.versusCpu = true;
+    g.matchTarget = 3;
+    g.players[0] = {"You", true, 0};
+    g.players[1] = {"zeph", false, 0};
+    g.turnCount = 1; // zeph's turn
+    sinkTheNine();
+    EXPECT_EQ(screen.messages, std::vector<std::string>{"zeph is Winner!"});
+    EXPECT_EQ(g.players[1].gamesWon, 1);
+    EXPECT_TRUE(g.players[1].hasBreak);
+    EXPECT_TRUE(isTimerEnabled(g, kTimCom));
+    EXPECT_TRUE(g.controls.shotEnabled) << "the controls stay on through zeph's break";
+}
+
+TEST_F(GameOver, TwoMatchesWonInARowAgainstZephRaiseItsLevel) {
+    g.gameMode = kModeVersus;
+    g.versusCpu = true;
+    g.matchTarget = 1;
+    g.players[0] = {"You", true, 0};
+    g.players[1] = {"zeph", false, 0};
+    sinkTheNine();
+    EXPECT_EQ(g.zephProgress, 1);
+    EXPECT_EQ(g.zephLevel, 1);
+    EXPECT_TRUE(g.controls.scoreVisible) << "a won match enters the table";
+    sinkTheNine();
+    EXPECT_EQ(g.zephProgress, 0);
+    EXPECT_EQ(g.zephLevel, 2);
+}
+
+TEST_F(GameOver, TheDemoReturnsToTheMenuWithNoMessage) {
+    g.gameMode = kModeDemo;
+    g.players[0] = {"You", true, 0};
+    g.players[1] = {"zeph", false, 0};
+    sinkTheNine();
+    EXPECT_TRUE(screen.messages.empty());
+    EXPECT_TRUE(screen.forms.empty());
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    EXPECT_TRUE(g.controls.menuVisible);
+    EXPECT_FALSE(isTimerEnabled(g, kTimCom));
+}
+
+} // namespace

@@ -1,0 +1,136 @@
+// Moving between the modes: play buttons, labels, the hidden menu, the demo.
+#include "rules/demo.h"
+#include "rules/match.h"
+#include "rules/modes.h"
+#include "rules/new_game.h"
+#include "rules_fixture.h"
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+class Modes : public RulesTest {
+  protected:
+    void SetUp() override {
+        RulesTest::SetUp();
+        backToMenu(g);
+        screen.onChangeVsMode = [] {}; // OK as it stands: the mode stays versus
+    }
+};
+
+TEST_F(Modes, SoloPlayHidesTheMenuAndShowsAllThreeLabels) {
+    picSoloPlay_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_FALSE(g.controls.menuVisible);
+    EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, true, true}));
+    EXPECT_EQ(g.controls.shotCaption, "Shot!");
+    EXPECT_EQ(g.controls.shotFont.size, 18.75f);
+    EXPECT_EQ(g.bgmScene, 2);
+}
+
+TEST_F(Modes, AMatchAgainstZephOffersThreeGamesAndShowsOnlyTheMenuLabel) {
+    g.matchTarget = 7;
+    picVSCPU_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeVersus);
+    EXPECT_EQ(g.matchTarget, 3);
+    EXPECT_EQ(g.players[1].name, "zeph");
+    EXPECT_TRUE(g.versusCpu);
+    EXPECT_FALSE(g.controls.mnuStartEnabled);
+    EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, false, false}));
+    EXPECT_EQ(g.bgmScene, 3);
+}
+
+TEST_F(Modes, CancelOnTheSetUpFormLandsOnTheMenu) {
+    screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; };
+    picVSPlay_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    EXPECT_TRUE(g.controls.menuVisible);
+    EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
+}
+
+TEST_F(Modes, TheLabelsAreDeadWhileBallsRoll) {
+    picSoloPlay_Click(g, 0);
+    setTimerEnabled(g, kTimer1, true);
+    lblMenu_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_FALSE(g.controls.menuVisible);
+}
+
+TEST_F(Modes, TheMenuLabelLeavesAGameForTheMenuAndItsMusic) {
+    picSoloPlay_Click(g, 0);
+    lblMenu_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    EXPECT_TRUE(g.controls.menuVisible);
+    EXPECT_TRUE(isTimerEnabled(g, kTimDemo));
+    EXPECT_EQ(g.bgmScene, 0);
+    EXPECT_EQ(g.bgmScenePrevious, 2);
+}
+
+TEST_F(Modes, ChangeModeSwitchesAMatchBackToASoloGame) {
+    picVSCPU_Click(g, 0);
+    mnuChangeMode_Click(g);
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_TRUE(g.controls.mnuStartEnabled);
+    EXPECT_EQ(g.controls.shotCaption, "SHOT!");
+    EXPECT_EQ(g.controls.mnuChangeModeCaption, "独り撞き→対戦(&M)");
+}
+
+TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
+    for (int second = 1; second <= 30; ++second)
+        timDemo_Timer(g);
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    timDemo_Timer(g);
+    EXPECT_EQ(g.gameMode, kModeDemo);
+    EXPECT_FALSE(g.controls.menuVisible);
+    EXPECT_EQ(g.controls.shotCaption, "DEMO");
+    EXPECT_TRUE(isTimerEnabled(g, kTimCom));
+    EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{false, false, false}));
+    timDemo_Timer(g);
+    EXPECT_EQ(g.demoCounter, 0);
+}
+
+TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRoll) {
+    startDemo(g);
+    setTimerEnabled(g, kTimer1, true);
+    picPool_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    EXPECT_FALSE(isTimerEnabled(g, kTimer1));
+    EXPECT_FALSE(isTimerEnabled(g, kTimCom));
+    EXPECT_TRUE(g.breakPending);
+}
+
+TEST_F(Modes, AClickOnTheTableDoesNothingInSoloPlay) {
+    picSoloPlay_Click(g, 0);
+    setTimerEnabled(g, kTimer1, true);
+    picPool_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
+}
+
+TEST_F(Modes, StartFromTheMenuKeepsTheMenuModeSoTheDemoCountGoesOn) {
+    mnuStart_click(g);
+    EXPECT_FALSE(g.controls.menuVisible);
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    timDemo_Timer(g);
+    EXPECT_EQ(g.demoCounter, 1);
+}
+
+TEST(NewGameState, RacksWithFullPowerAndTheAimOnTheApexBall) {
+    GameState g;
+    g.aimX = 5;
+    g.controls.power = 40;
+    g.players[0].gamesWon = 2;
+    newGame(g);
+    EXPECT_EQ(g.aimX, g.Balls[1].x);
+    EXPECT_EQ(g.aimY, g.Balls[1].y);
+    EXPECT_EQ(g.controls.power, 100);
+    EXPECT_EQ(g.players[0].gamesWon, 2);
+    EXPECT_TRUE(g.breakPending);
+    EXPECT_TRUE(isTimerEnabled(g, kTimer2));
+    EXPECT_FALSE(g.controls.mnuRetryEnabled);
+    EXPECT_EQ(g.controls.qBall.left, 140);
+    EXPECT_EQ(g.controls.qBall.top, 140);
+}
+
+} // namespace
