@@ -116,14 +116,15 @@ int answerContact(GameState& g, const NextContact& next) {
 } // namespace
 
 void runFrame(GameState& g) {
-    float timeLeft = float(kFrameTime);
+    const float frameTime = float(kFrameTime);
+    float timeLeft = frameTime;
     for (int pass = 0; pass < kMaxPassesPerFrame; ++pass) {
         g.ports.screen->yieldToPaint();
         const NextContact next = findNextContact(g);
         if (next.time > timeLeft)
             break;
         moveBalls(g, next.time);
-        const float timeInFrame = float(kFrameTime - timeLeft + next.time);
+        const float timeInFrame = float(double(frameTime) - timeLeft + next.time);
         const int pocket = answerContact(g, next);
         tellObserver(g, timeInFrame, next.ball, next.partner, pocket);
         timeLeft = float(timeLeft - next.time);
