@@ -47,6 +47,19 @@ std::string keyOf(const std::string& field) {
     return dot == std::string::npos ? field : field.substr(dot + 1);
 }
 
+// An optional field of one JSON kind: absent leaves the value as it is.
+template <typename T>
+std::string readTyped(const json& input, const std::string& field,
+                      bool (json::*isKind)() const noexcept, const char* kind, T& value) {
+    const std::string key = keyOf(field);
+    if (!input.contains(key))
+        return "";
+    if (!(input[key].*isKind)())
+        return field + ": expected " + kind;
+    value = input[key].get<T>();
+    return "";
+}
+
 } // namespace
 
 std::string readInputObject(std::istream& in, json& object) {
@@ -60,13 +73,7 @@ std::string readInputObject(std::istream& in, json& object) {
 }
 
 std::string readNumber(const json& input, const std::string& field, double& value) {
-    const std::string key = keyOf(field);
-    if (!input.contains(key))
-        return "";
-    if (!input[key].is_number())
-        return field + ": expected a number";
-    value = input[key].get<double>();
-    return "";
+    return readTyped(input, field, &json::is_number, "a number", value);
 }
 
 std::string readWholeNumber(const json& input, const std::string& field, int low, int high,
@@ -86,13 +93,7 @@ std::string readWholeNumber(const json& input, const std::string& field, int low
 }
 
 std::string readFlag(const json& input, const std::string& field, bool& value) {
-    const std::string key = keyOf(field);
-    if (!input.contains(key))
-        return "";
-    if (!input[key].is_boolean())
-        return field + ": expected true or false";
-    value = input[key].get<bool>();
-    return "";
+    return readTyped(input, field, &json::is_boolean, "true or false", value);
 }
 
 std::string readPoint(const json& input, const std::string& field, PointType& point) {

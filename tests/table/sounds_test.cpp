@@ -50,10 +50,13 @@ TEST(Sounds, CushionAndPocketHaveAFloorOfOneHundredth) {
                  {{56, "drop.wav"}, {55, nullptr}, {5600, "drop.wav"}, {5601, nullptr}});
 }
 
-TEST(Sounds, BreakClicksLetEachOtherFinishAndLaterOnesCutOff) {
+struct SoundsHeard : ::testing::Test {
     GameState g;
     RecordingSound sound;
-    g.ports.sound = &sound;
+    void SetUp() override { g.ports.sound = &sound; }
+};
+
+TEST_F(SoundsHeard, BreakClicksLetEachOtherFinishAndLaterOnesCutOff) {
     g.shotCount = 1;
     playContactSound(g, 100);
     g.shotCount = 2;
@@ -65,10 +68,7 @@ TEST(Sounds, BreakClicksLetEachOtherFinishAndLaterOnesCutOff) {
     EXPECT_EQ(sound.played[2].second, 1);
 }
 
-TEST(Sounds, SoundOffSilencesAllThree) {
-    GameState g;
-    RecordingSound sound;
-    g.ports.sound = &sound;
+TEST_F(SoundsHeard, SoundOffSilencesAllThree) {
     g.soundOn = 0;
     playContactSound(g, 1000);
     playCushionSound(g, 1000);

@@ -47,6 +47,9 @@ inline GameState emptyTable() {
     return g;
 }
 
+// The frame saw one contact only: this ball taken by this pocket from this cushion.
+void expectOnlyCapture(const RecordingContacts& contacts, int cushion, int pocket);
+
 void putBall(GameState& g, int n, float x, float y, float speed = 0, float angle = 0);
 
 } // namespace morvane::testing
