@@ -35,17 +35,6 @@ TEST(Launch, SpeedIs56APercentAndAFifthMoreOnTheBreak) {
     EXPECT_EQ(fullBreak.Balls[0].speed, 6720);
 }
 
-TEST(Launch, SendsTheCueBallThroughTheAimPoint) {
-    GameState g = rackedForShot(50, false);
-    g.aimX = 600;
-    g.aimY = 1000; // straight up from the head spot
-    launchCueBall(g);
-    const BallType& cue = g.Balls[0];
-    EXPECT_EQ(cue.angle, float(3.1415926 / 2));
-    EXPECT_NEAR(cue.vx, 0, 1e-3);
-    EXPECT_FLOAT_EQ(cue.vy, 2800);
-}
-
 TEST(Launch, ScalesAFullHitPointToVelocitiesButSavesItUnscaled) {
     GameState g = rackedForShot(100, false);
     g.Balls[0].spinSide = 1;
