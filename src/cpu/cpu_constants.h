@@ -12,7 +12,7 @@ constexpr int kFirstPocket = 1;
 constexpr int kLastPocket = 6;
 constexpr int kFirstImage = 7;
 constexpr int kLastImage = 9;
-constexpr float kMiddlePocketX = int(kTableLength) / 2;
+constexpr float kTableMiddleX = int(kTableLength) / 2; // the middle pockets stand here
 
 // Images of the far pockets stand this much further out than an exact mirror would put them.
 constexpr float kImageLeftX = -2300;

@@ -7,10 +7,10 @@ namespace morvane {
 void initPocketTable(GameState& g) {
     auto& p = g.pocketTable;
     p[1] = {kCushionLeftX, kCushionTopY};
-    p[2] = {kMiddlePocketX, kCushionTopY};
+    p[2] = {kTableMiddleX, kCushionTopY};
     p[3] = {kCushionRightX, kCushionTopY};
     p[4] = {kCushionLeftX, kCushionBottomY};
-    p[5] = {kMiddlePocketX, kCushionBottomY};
+    p[5] = {kTableMiddleX, kCushionBottomY};
     p[6] = {kCushionRightX, kCushionBottomY};
 }
 
