@@ -10,6 +10,13 @@ namespace morvane {
 
 namespace {
 
+// In English zeph keeps quiet about an object-ball bank, whether the road to the image is free.
+constexpr Remark kHopelessBank{"これは無理かな～", "......."};
+constexpr Remark kHopefulBank{"的球のバンクだとはいるかな？", "......."};
+constexpr Remark kBankShot{"バンクショット！", "Bank Shot."};
+constexpr Remark kBankShotExclaimed{"バンクショット！", "Bank Shot!"};
+constexpr Remark kBankAndCombination{"バンク＆コンビネーション！", "Bank & Conbination Shot!"};
+
 // A bank point in the mouth of a middle pocket would send the cue ball into it.
 bool missesMiddleMouth(const PointType& bank) {
     return bank.x <= kMiddleMouthLow || bank.x >= kMiddleMouthHigh;
@@ -17,9 +24,9 @@ bool missesMiddleMouth(const PointType& bank) {
 
 // Pocket first, cushion second: each free road off a cushion onto a ghost point that cuts strictly
 // less than the plan replaces it, and zeph says the remark for that pocket.
-template <typename RemarkForPocket>
-void takeBestCueBank(GameState& g, ShotPlan& plan, const ShotScene& scene,
-                     const PocketGhosts& ghost, RemarkForPocket sayForPocket) {
+void takeBestCueBank(GameState& g, ShotPlan& plan, const PocketGhosts& ghost,
+                     const PocketRemarks& remarks) {
+    const ShotScene scene = sceneOf(g);
     for (int p = kFirstPocket; p <= kLastPocket; ++p) {
         for (int16_t cushion = kCushionLeft; cushion <= kCushionBottom; ++cushion) {
             const BankPoint bank = findBankPoint(g, scene.cue, ghost[p], cushion, scene.t);
@@ -28,7 +35,7 @@ void takeBestCueBank(GameState& g, ShotPlan& plan, const ShotScene& scene,
             if (!bank.blocked && !isSpotBlockedExcept(g, ghost[p].x, ghost[p].y, scene.t) &&
                 candidate.cut < plan.cutAngle && missesMiddleMouth(bank.point)) {
                 takeCandidate(plan, candidate);
-                sayForPocket(p);
+                sayRemark(g, remarks.forPocket(p));
             }
         }
     }
@@ -39,41 +46,30 @@ void takeBestCueBank(GameState& g, ShotPlan& plan, const ShotScene& scene,
 void tryObjectBank(GameState& g, ShotPlan& plan) {
     const ShotScene scene = sceneOf(g);
     mirrorPockets(g, getCushionFacing(scene.cue, scene.target));
-    PocketFlags isCombination{};
+    PocketRemarks remarks{{}, kHopelessBank, kHopefulBank};
     for (int p = kFirstImage; p <= kLastImage; ++p)
-        isCombination[p] = isCombinationPocket(g, p);
+        remarks.isCombination[p] = isCombinationPocket(g, p);
     const PocketGhosts ghost = plainGhosts(g, scene, kFirstImage, kLastImage);
     for (int p = kFirstImage; p <= kLastImage; ++p) {
         const ShotCandidate candidate = directCandidate(scene, ghost[p], g.pocketTable[p]);
         if (isGhostReachable(g, scene, ghost[p]) && candidate.cut < plan.cutAngle &&
             isCentralShot(ghost[p], candidate.cut)) {
             takeCandidate(plan, candidate);
-            if (isCombination[p])
-                sayRemark(g, "これは無理かな～", ".......");
-            else
-                sayRemark(g, "的球のバンクだとはいるかな？", ".......");
+            sayRemark(g, remarks.forPocket(p));
         }
     }
 }
 
 void tryCueBank(GameState& g, ShotPlan& plan) {
-    const ShotScene scene = sceneOf(g);
-    const PocketGhosts ghost = plainGhosts(g, scene, kFirstPocket, kLastPocket);
-    takeBestCueBank(g, plan, scene, ghost,
-                    [&g](int) { sayRemark(g, "バンクショット！", "Bank Shot."); });
+    const PocketGhosts ghost = plainGhosts(g, sceneOf(g), kFirstPocket, kLastPocket);
+    takeBestCueBank(g, plan, ghost, {{}, kBankShot, kBankShot});
 }
 
 void tryCueBankCombination(GameState& g, ShotPlan& plan) {
-    const ShotScene scene = sceneOf(g);
     PocketGhosts ghost{};
-    PocketFlags isCombination{};
-    findCombinationGhosts(g, ghost, isCombination);
-    takeBestCueBank(g, plan, scene, ghost, [&g, &isCombination](int p) {
-        if (isCombination[p])
-            sayRemark(g, "バンク＆コンビネーション！", "Bank & Conbination Shot!");
-        else
-            sayRemark(g, "バンクショット！", "Bank Shot!");
-    });
+    PocketRemarks remarks{{}, kBankAndCombination, kBankShotExclaimed};
+    findCombinationGhosts(g, ghost, remarks.isCombination);
+    takeBestCueBank(g, plan, ghost, remarks);
 }
 
 } // namespace morvane

@@ -25,4 +25,13 @@ PocketGhosts plainGhosts(const GameState& g, const ShotScene& scene, int first, 
 // it.
 void findCombinationGhosts(const GameState& g, PocketGhosts& ghost, PocketFlags& isCombination);
 
+// What zeph says of a shot at a pocket: one remark for a combination, another for a plain pot.
+struct PocketRemarks {
+    PocketFlags isCombination{};
+    Remark combination;
+    Remark plain;
+
+    const Remark& forPocket(int p) const { return isCombination[p] ? combination : plain; }
+};
+
 } // namespace morvane

@@ -10,6 +10,7 @@ namespace morvane {
 namespace {
 
 constexpr double kNineBallMissFactor = 2;
+constexpr Remark kNothingToDo{"打つ手がないよ～", "I can do nothing!"};
 
 // The aim on the plan, or with the chance of this level up to a sixth of a ball off either way.
 void aimWithChanceOfMiss(GameState& g, int16_t level, const ShotPlan& plan) {
@@ -35,7 +36,7 @@ void cpuThink(GameState& g) {
     const int16_t level = g.zephLevel;
     const ShotPlan plan = choosePlan(g, level);
     if (!plan.found)
-        sayRemark(g, "打つ手がないよ～", "I can do nothing!");
+        sayRemark(g, kNothingToDo);
     setPower(g, powerForPlan(level, plan));
     aimWithChanceOfMiss(g, level, plan);
     placeTarget(g);

@@ -13,6 +13,8 @@ namespace morvane {
 
 namespace {
 
+constexpr Remark kMyTurn{"動かさなきゃ", "My turn."};
+
 // Two balls behind the target on the line from the pocket: one gap behind the ghost point.
 PointType spotBehindTarget(const PointType& target, const PointType& pocket) {
     const double a = double(getAngle(target, pocket)) + kPi;
@@ -44,7 +46,7 @@ void placeCueBall(GameState& g) {
     const ShotScene scene = sceneOf(g);
     PointType spot = scene.cue;
     if (g.ballInHand) {
-        sayRemark(g, "動かさなきゃ", "My turn.");
+        sayRemark(g, kMyTurn);
         spot = straightShotSpot(g, scene);
     }
     g.Balls[kCueBall].x = spot.x;

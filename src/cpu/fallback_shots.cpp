@@ -13,6 +13,9 @@ namespace {
 
 constexpr int kProbeCount = 3;
 
+constexpr Remark kDifficult{"当てるぐらいしかできませんね", "Difficalt !"};
+constexpr Remark kCannotPot{"とりあえず当てていきましょうかね。", "I can't Poket."};
+
 // The target's centre, then a point 98 from it turned to one side of the line of sight, then to
 // the other.
 std::array<PointType, kProbeCount + 1> thinHitProbes(const ShotScene& scene) {
@@ -44,7 +47,7 @@ void tryJustHit(GameState& g, ShotPlan& plan) {
         const ShotCandidate candidate = directCandidate(scene, probe[i], g.pocketTable[i]);
         if (!isPathBlocked(g, scene.cue, probe[i]) && candidate.cut < plan.cutAngle) {
             takeCandidate(plan, candidate);
-            sayRemark(g, "当てるぐらいしかできませんね", "Difficalt !");
+            sayRemark(g, kDifficult);
         }
     }
 }
@@ -69,7 +72,7 @@ void tryCushionHit(GameState& g, ShotPlan& plan) {
             plan.planY = bank.point.y;
             plan.found = true;
             shortest = float(total);
-            sayRemark(g, "とりあえず当てていきましょうかね。", "I can't Poket.");
+            sayRemark(g, kCannotPot);
         }
     }
 }

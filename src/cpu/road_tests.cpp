@@ -41,21 +41,22 @@ int16_t firstBallOnRoad(const GameState& g, const PointType& from, const PointTy
     return kNobody;
 }
 
+// A road of no length counts as blocked.
+bool isRoadBlocked(const GameState& g, const PointType& from, const PointType& to, int16_t except,
+                   RoadEnds ends) {
+    const float length = getDistance(from, to);
+    return length == 0 || firstBallOnRoad(g, from, to, length, except, ends) != kNobody;
+}
+
 } // namespace
 
 bool isPathBlocked(const GameState& g, const PointType& from, const PointType& to) {
-    const float length = getDistance(from, to);
-    if (length == 0)
-        return true;
-    return firstBallOnRoad(g, from, to, length, kNobody, RoadEnds::ballAtEndCounts) != kNobody;
+    return isRoadBlocked(g, from, to, kNobody, RoadEnds::ballAtEndCounts);
 }
 
 bool isPathBlockedExcept(const GameState& g, const PointType& from, const PointType& to,
                          int16_t except) {
-    const float length = getDistance(from, to);
-    if (length == 0)
-        return true;
-    return firstBallOnRoad(g, from, to, length, except, RoadEnds::ballAtEndIsBeside) != kNobody;
+    return isRoadBlocked(g, from, to, except, RoadEnds::ballAtEndIsBeside);
 }
 
 int16_t findBlockingBall(const GameState& g, const PointType& from, const PointType& to,
@@ -68,12 +69,7 @@ int16_t findBlockingBall(const GameState& g, const PointType& from, const PointT
 
 bool isSpotBlockedExcept(const GameState& g, float x, float y, int16_t except) {
     for (int16_t i = 1; i <= kNineBall; ++i) {
-        const BallType& ball = g.Balls[i];
-        if (i == except || !ball.onTable)
-            continue;
-        const double dx = double(ball.x) - x;
-        const double dy = double(ball.y) - y;
-        if (dx * dx + dy * dy < double(kContactDistance) * kContactDistance)
+        if (i != except && g.Balls[i].onTable && isWithinContact(g.Balls[i], x, y))
             return true;
     }
     return false;

@@ -66,8 +66,8 @@ void takeCandidate(ShotPlan& plan, const ShotCandidate& candidate) {
     plan.planY = candidate.aim.y;
 }
 
-void sayRemark(GameState& g, const std::string& japanese, const std::string& english) {
-    g.controls.zephsMessage = chooseText(g, japanese, english);
+void sayRemark(GameState& g, const Remark& remark) {
+    g.controls.zephsMessage = chooseText(g, remark.japanese, remark.english);
 }
 
 } // namespace morvane

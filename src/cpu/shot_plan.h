@@ -51,7 +51,13 @@ bool isGhostReachable(const GameState& g, const ShotScene& scene, const PointTyp
 // The candidate becomes the plan.
 void takeCandidate(ShotPlan& plan, const ShotCandidate& candidate);
 
+// A remark of zeph in both languages.
+struct Remark {
+    const char* japanese;
+    const char* english;
+};
+
 // zeph says something: the remark shows in the language of the system.
-void sayRemark(GameState& g, const std::string& japanese, const std::string& english);
+void sayRemark(GameState& g, const Remark& remark);
 
 } // namespace morvane

@@ -12,6 +12,9 @@ namespace morvane {
 
 namespace {
 
+constexpr Remark kMyFirstShot{"お先に!", "My first shot."};
+constexpr Remark kLetMeSee{"う～んとね。", "Weel...."};
+
 // In the demo the table stays live, so that a click on it can end the demo.
 void lockTableOutsideDemo(GameState& g) {
     if (g.gameMode != kModeDemo)
@@ -21,9 +24,9 @@ void lockTableOutsideDemo(GameState& g) {
 void openTurn(GameState& g) {
     g.controls.zephsMessageVisible = true;
     if (g.breakPending) {
-        sayRemark(g, "お先に!", "My first shot.");
+        sayRemark(g, kMyFirstShot);
     } else {
-        sayRemark(g, "う～んとね。", "Weel....");
+        sayRemark(g, kLetMeSee);
         placeCueBall(g);
     }
     setShotControls(g, false);
