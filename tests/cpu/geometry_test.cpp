@@ -90,45 +90,35 @@ TEST(TablePlaces, OnTableAndCentralShotAreStrictAtTheirEdges) {
 }
 
 TEST(RoadTests, ABallOnTheLineOrItsEndsCountsByEachTestsOwnRule) {
-    GameState g = tableWithCueAt(600, 600);
+    // One ball, number 2, on or near the road from (600, 600) to (1600, 600); the tests leave out
+    // ball 1, which is off the table anyway.
+    struct Case {
+        const char* where;
+        float x, y;
+        bool blocked;       // isPathBlocked
+        bool blockedExcept; // isPathBlockedExcept, leaving out ball 1
+    };
+    const Case cases[] = {
+        {"99 from the line", 1100, 699, true, true},
+        {"101 from the line", 1100, 701, false, false},
+        {"level with the start, 100 off", 600, 700, false, false},
+        {"level with the start, 99.9 off", 600, 699.9f, true, false},
+        {"exactly at the end", 1600, 600, true, false},
+        {"behind the start", 550, 600, false, false},
+        {"beyond the end", 1650, 600, false, false},
+        {"on the start", 600, 600, true, true},
+    };
     const PointType from{600, 600};
     const PointType to{1600, 600};
-    EXPECT_FALSE(isPathBlocked(g, from, to));
-
-    putBall(g, 2, 1100, 699); // 99 from the line
-    EXPECT_TRUE(isPathBlocked(g, from, to));
-    EXPECT_TRUE(isPathBlockedExcept(g, from, to, 1));
-    EXPECT_FALSE(isPathBlockedExcept(g, from, to, 2));
-    EXPECT_EQ(findBlockingBall(g, from, to, 1), 2);
-
-    putBall(g, 2, 1100, 701);
-    EXPECT_FALSE(isPathBlocked(g, from, to));
-
-    // Level with the start: 100 off is beside; nearer counts only for the strict end test.
-    putBall(g, 2, 600, 700);
-    EXPECT_FALSE(isPathBlocked(g, from, to));
-    putBall(g, 2, 600, 699.9f);
-    EXPECT_TRUE(isPathBlocked(g, from, to));
-    EXPECT_FALSE(isPathBlockedExcept(g, from, to, 0));
-    EXPECT_EQ(findBlockingBall(g, from, to, 0), 0);
-
-    // A ball exactly at the end of the road.
-    putBall(g, 2, 1600, 600);
-    EXPECT_TRUE(isPathBlocked(g, from, to));
-    EXPECT_FALSE(isPathBlockedExcept(g, from, to, 0));
-    EXPECT_EQ(findBlockingBall(g, from, to, 0), 0);
-
-    // Behind the start and beyond the end.
-    putBall(g, 2, 550, 600);
-    EXPECT_FALSE(isPathBlocked(g, from, to));
-    putBall(g, 2, 1650, 600);
-    EXPECT_FALSE(isPathBlocked(g, from, to));
-
-    // A ball on the road's start is on it for every test unless left out.
-    putBall(g, 2, 600, 600);
-    EXPECT_TRUE(isPathBlocked(g, from, to));
-    EXPECT_TRUE(isPathBlockedExcept(g, from, to, 1));
-    EXPECT_FALSE(isPathBlockedExcept(g, from, to, 2));
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.where);
+        GameState g = tableWithCueAt(600, 600);
+        putBall(g, 2, c.x, c.y);
+        EXPECT_EQ(isPathBlocked(g, from, to), c.blocked);
+        EXPECT_EQ(isPathBlockedExcept(g, from, to, 1), c.blockedExcept);
+        EXPECT_EQ(findBlockingBall(g, from, to, 1), c.blockedExcept ? 2 : 0);
+        EXPECT_FALSE(isPathBlockedExcept(g, from, to, 2));
+    }
 }
 
 TEST(RoadTests, SkipTheCueBallAndBallsOffTheTableAndNameTheLowestBlocker) {

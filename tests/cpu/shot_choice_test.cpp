@@ -8,12 +8,6 @@ using namespace morvane::cputest;
 
 namespace {
 
-GameState workedTable() {
-    GameState g = tableWithCueAt(600, 600);
-    putBall(g, 1, 1800, 700);
-    return g;
-}
-
 ShotPlan planWithRuns(float cueRun, float ballRun) {
     ShotPlan plan;
     plan.cueRun = cueRun;
@@ -97,17 +91,8 @@ TEST(ChoosePlan, OnlyLevelsNineAndUpBankTheCueBallWhenNoPotCutsUnder30Degrees) {
 }
 
 TEST(ChoosePlan, WithNoPotTheLowLevelsHaveNoCushionFallbackAndLevelThreeHasOne) {
-    // Ball 2 halfway between the cue ball and the target shuts every straight road.
-    auto table = [] {
-        GameState g = tableWithCueAt(600, 800);
-        putBall(g, 1, 2000, 800);
-        putBall(g, 2, 1300, 800);
-        g.aimX = 2000;
-        g.aimY = 800;
-        return g;
-    };
     for (int16_t level = 1; level <= 2; ++level) {
-        GameState g = table();
+        GameState g = shutInTable();
         const ShotPlan plan = choosePlan(g, level);
         EXPECT_FALSE(plan.found) << "level " << level;
         EXPECT_EQ(plan.planX, 2000);
@@ -116,7 +101,7 @@ TEST(ChoosePlan, WithNoPotTheLowLevelsHaveNoCushionFallbackAndLevelThreeHasOne) 
         EXPECT_EQ(g.controls.zephsMessage, "");
     }
     // The top rail is the shortest; the bottom rail came last and left its runs.
-    GameState three = table();
+    GameState three = shutInTable();
     const ShotPlan plan = choosePlan(three, 3);
     EXPECT_TRUE(plan.found);
     EXPECT_EQ(plan.planX, 1300);
