@@ -1,0 +1,80 @@
+#include "screen/pool_view.h"
+
+#include "screen/fonts.h"
+#include "screen/mouse_buttons.h"
+#include "table/constants.h"
+
+#include <QPainter>
+
+namespace morvane {
+
+namespace {
+
+constexpr QRect kZephsMessageArea{88, 0, 357, 25};
+constexpr double kZephsMessagePoints = 14.25;
+constexpr QRgb kTargetCyan = qRgb(0, 255, 255);
+constexpr QRgb kQBallRed = qRgb(255, 0, 0);
+
+bool sameMarker(const MarkerState& a, const MarkerState& b) {
+    return a.left == b.left && a.top == b.top && a.visible == b.visible;
+}
+
+// An outline of ballPixels across with its top left corner at the marker's place.
+void drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour) {
+    if (!marker.visible)
+        return;
+    painter.setPen(QColor(colour));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QRectF(marker.left, marker.top, kBallPixels - 1, kBallPixels - 1));
+}
+
+} // namespace
+
+PoolView::PoolView(const GameState& g, const QImage& view, QWidget* parent)
+    : QWidget(parent), g_(g), view_(view), lblZephsMessage_(new QLabel(this)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    lblZephsMessage_->setGeometry(kZephsMessageArea);
+    lblZephsMessage_->setStyleSheet("color: rgb(0, 255, 0); background: black;");
+    lblZephsMessage_->setFont(gameFont(g.isJapanese ? QStringLiteral("ＭＳ ゴシック") : "Arial",
+                                       kZephsMessagePoints, true));
+    lblZephsMessage_->hide();
+    lblZephsMessage_->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void PoolView::syncFromState() {
+    const ControlsState& c = g_.controls;
+    setEnabled(c.poolEnabled);
+    lblZephsMessage_->setText(QString::fromStdString(c.zephsMessage));
+    lblZephsMessage_->setVisible(c.zephsMessageVisible);
+    if (!sameMarker(c.target, paintedTarget_) || !sameMarker(c.qBall, paintedQBall_))
+        update();
+}
+
+void PoolView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.drawImage(0, 0, view_);
+    drawMarker(painter, g_.controls.qBall, kQBallRed);
+    drawMarker(painter, g_.controls.target, kTargetCyan);
+    paintedTarget_ = g_.controls.target;
+    paintedQBall_ = g_.controls.qBall;
+}
+
+void PoolView::mousePressEvent(QMouseEvent* event) {
+    emit mouseDown(buttonCode(event->button()), float(event->position().x()),
+                   float(event->position().y()));
+}
+
+void PoolView::mouseMoveEvent(QMouseEvent* event) {
+    emit mouseMove(buttonsCode(event->buttons()), float(event->position().x()),
+                   float(event->position().y()));
+}
+
+void PoolView::mouseReleaseEvent(QMouseEvent* event) {
+    emit mouseUp(buttonCode(event->button()), float(event->position().x()),
+                 float(event->position().y()));
+    if (rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+} // namespace morvane
