@@ -8,7 +8,9 @@
 #include "table/game_state.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPainter>
+#include <QTimer>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -73,6 +75,10 @@ class ScreenTest : public ::testing::Test {
             std::make_unique<QtScreen>(g, plainSheet(), plainPicture(45, 45, qRgb(200, 200, 200)),
                                        plainPicture(66, 34, qRgb(0, 0, 255)));
         g.ports.screen = screen.get();
+        // A message box the test does not look at is closed as soon as it runs.
+        screen->onMessageBox = [](QDialog& form) {
+            QTimer::singleShot(0, &form, &QDialog::accept);
+        };
         initTimers(g);
         g.gameMode = kModeSolo;
         for (BallType& b : g.Balls)

@@ -5,6 +5,7 @@
 #include "rules/modes.h"
 #include "table/controls.h"
 #include "table/rack.h"
+#include "table/shot_input.h"
 #include "table/timers.h"
 #include "table/view_coords.h"
 
@@ -134,16 +135,17 @@ TEST_F(WindowInputTest, F2RacksANewGameAndTheShotButtonFires) {
     g.shotCount = 4;
     g.controls.mnuStartEnabled = true;
     window->syncControlsFromState();
-    window->activateWindow();
+    QApplication::setActiveWindow(window.get()); // shortcuts go to the active window
     QTest::keyClick(window.get(), Qt::Key_F2);
     EXPECT_EQ(0, g.shotCount);
     EXPECT_TRUE(g.breakPending);
 
+    advanceVirtualTime(g, g.nowMs + 330); // the break's aim swings meanwhile
     QTest::mouseClick(window->cmdShot(), Qt::LeftButton);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1));
     EXPECT_FALSE(window->cmdShot()->isEnabled());
     // The break runs to its end in virtual time and the controls come back.
-    advanceUntil(g, g.nowMs + 60000, [this] { return !isTimerEnabled(g, kTimer1); });
+    EXPECT_TRUE(advanceUntil(g, g.nowMs + 60000, [this] { return !isTimerEnabled(g, kTimer1); }));
     window->syncControlsFromState();
     EXPECT_TRUE(window->cmdShot()->isEnabled());
     EXPECT_FALSE(g.breakPending);
