@@ -1,32 +1,38 @@
 #include "sim/commands.h"
 
-#include <cstdio>
-#include <cstring>
-#include <string>
+#include "sim/shot_command.h"
+
+#include <iostream>
 
 namespace morvane::sim {
 
 namespace {
 
-constexpr int kBadInput = 2;
-
-int usage() {
-    std::fputs("usage: morvane-sim COMMAND [options]\n"
-               "commands:\n"
-               "  shot [--seed N] [--trace]   one shot: a table as JSON on stdin, the result on "
-               "stdout\n",
-               stderr);
+int usage(std::ostream& err) {
+    err << "usage: morvane-sim COMMAND [options]\n"
+           "commands:\n"
+           "  shot [--seed N] [--trace]   one shot: a table as JSON on stdin, the result on "
+           "stdout\n";
     return kBadInput;
 }
 
 } // namespace
 
+int runCommand(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
+               std::ostream& err) {
+    if (args.empty())
+        return usage(err);
+    const std::string& command = args[0];
+    const std::vector<std::string> options(args.begin() + 1, args.end());
+    if (command == "shot")
+        return runShotCommand(options, in, out, err);
+    err << "morvane-sim: unknown command '" << command << "'\n";
+    return usage(err);
+}
+
 int runCommand(int argc, char** argv) {
-    if (argc < 2)
-        return usage();
-    const std::string command = argv[1];
-    std::fprintf(stderr, "morvane-sim: unknown command '%s'\n", command.c_str());
-    return usage();
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    return runCommand(args, std::cin, std::cout, std::cerr);
 }
 
 } // namespace morvane::sim

@@ -49,6 +49,32 @@ constexpr float kContactDistance = 100;
 constexpr double kFollowShare = 1680.0 / 5600.0; // follow is 0.3 of the speed at a full hit point
 constexpr double kSideThrow = 0.3;
 constexpr float kBreakArrivalX = 1700;
+// A frame answers at most this many contacts; the rest of its time passes without contacts.
+constexpr int kMaxPassesPerFrame = 1000;
+
+// Pockets: stretches of the cushion lines, ends included.
+constexpr float kCornerPocketReach = 102; // from the corner of the cushion lines to 102
+constexpr float kMiddlePocketX = 1200;
+constexpr float kMiddlePocketHalfWidth = 50;
+
+// The break's scatter.
+constexpr double kBreakThetaOffset = 0.01;
+constexpr double kBreakSpreadPerTheta = 0.08;
+constexpr double kBreakSpreadDegrees = 0.5;
+constexpr double kBreakRackShare = 0.85;  // of the cue ball's speed, fed into the rack
+constexpr double kBreakSlowShare = 0.05;  // ball 1 of the cue ball's, ball 9 of the rack's
+constexpr double kBreakRowTwoShare = 0.5; // the second row gets half of its side's share
+constexpr double kBreakDrawShare = 0.5;   // the cue ball keeps half its draw
+constexpr double kBreakSideDivisor = 8;   // and an eighth of its side spin, across
+constexpr double kBreakObjectSideDivisor = 2;
+
+// The break swing: a quarter turn of phase in ten ticks, up to pi / 5.6 either side, and a jitter
+// of up to a quarter of a degree.
+constexpr double kSwingPhaseStep = kPi / 20;
+constexpr double kSwingReach = kPi / 5.6;
+constexpr double kSwingJitter = kPi / 360;
+constexpr float kSwingRadius = 100;
+constexpr float kSwingMarkerOffset = 10; // the marker stands this much nearer the head
 
 // Power bar.
 constexpr int16_t kPowerMin = 35;

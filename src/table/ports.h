@@ -69,6 +69,15 @@ class SeededRandom : public RandomPort {
     std::mt19937_64 engine_;
 };
 
+// Hears of every contact that the motion engine answers: a ball with a ball or a cushion, or a
+// ball taken by a pocket. The time is counted from the start of the frame; pocket is 0 when the
+// contact is not a capture. The headless tool lists the events of a shot through it.
+class ContactObserver {
+  public:
+    virtual ~ContactObserver() = default;
+    virtual void onContact(float timeInFrame, int ball, int partner, int pocket) = 0;
+};
+
 // The four outside services, handed in with the game state. Screen, sound and clock start as
 // quiet stand-ins that do nothing; the random source starts as a seeded one of the state's own.
 struct Ports {
@@ -77,6 +86,7 @@ struct Ports {
     ClockPort* clock = &fixedClock;
     RandomPort* random = nullptr;
     SeededRandom ownRandom{1};
+    ContactObserver* contacts = nullptr; // nobody listens unless set
 
     RandomPort& randomSource() { return random ? *random : ownRandom; }
 

@@ -1,7 +1,10 @@
+#include "table/geometry.h"
 #include "table/rack.h"
 #include "table/table_queries.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace morvane;
 
@@ -9,9 +12,15 @@ TEST(Rack, StandsEveryBallAtItsStartPointToTheBit) {
     GameState g;
     rackBalls(g);
     const float expected[10][2] = {
-        {600, 600},           {1790, 600},          {1963.205078125f, 500},
-        {2136.41015625f, 600}, {1963.205078125f, 700}, {1874.6025390625f, 652},
-        {1874.6025390625f, 548}, {2049.8076171875f, 550}, {2049.8076171875f, 650},
+        {600, 600},
+        {1790, 600},
+        {1963.205078125f, 500},
+        {2136.41015625f, 600},
+        {1963.205078125f, 700},
+        {1874.6025390625f, 652},
+        {1874.6025390625f, 548},
+        {2049.8076171875f, 550},
+        {2049.8076171875f, 650},
         {1963.205078125f, 600},
     };
     for (int n = 0; n < kBallCount; ++n) {
@@ -39,4 +48,32 @@ TEST(Rack, ClearsMotionAndSpinLeftFromTheLastGame) {
     EXPECT_EQ(b.spinSide, 0);
     EXPECT_EQ(getPocketedString(g), "000000000");
     EXPECT_EQ(getLowestBall(g), 1);
+}
+
+TEST(Helpers, GetAngleFollowsTheQuadrantsWithTheGamesPi) {
+    EXPECT_EQ(getAngle(0, 0, 0, 5), float(3.1415926 / 2));
+    EXPECT_EQ(getAngle(0, 0, 0, -5), float(-3.1415926 / 2));
+    EXPECT_EQ(getAngle(0, 0, -5, 0), float(3.1415926));
+    EXPECT_EQ(getAngle(3, 4, 3, 4), 0);
+    EXPECT_FLOAT_EQ(getAngle(0, 0, -1, 1), float(std::atan(-1.0) + 3.1415926));
+    EXPECT_FLOAT_EQ(getAngle(0, 0, -1, -1), float(std::atan(1.0) - 3.1415926));
+    EXPECT_FLOAT_EQ(getAngle(0, 0, 1, -1), float(std::atan(-1.0)));
+}
+
+TEST(Helpers, GetCushionFacingNamesTheCushionAhead) {
+    const PointType centre{1200, 600};
+    EXPECT_EQ(getCushionFacing(centre, {1200, 900}), kCushionTop);
+    EXPECT_EQ(getCushionFacing(centre, {1200, 100}), kCushionBottom);
+    EXPECT_EQ(getCushionFacing(centre, {100, 650}), kCushionLeft);
+    EXPECT_EQ(getCushionFacing(centre, {2000, 550}), kCushionRight);
+    EXPECT_EQ(getCushionFacing(centre, centre), kCushionRight); // no direction at all
+}
+
+TEST(Helpers, IsSpotBlockedOnlyStrictlyInsideADiameterOfABallInPlay) {
+    GameState g;
+    rackBalls(g);
+    EXPECT_FALSE(isSpotBlocked(g, 500, 600)); // exactly 100 from the cue ball
+    EXPECT_TRUE(isSpotBlocked(g, 500.5f, 600));
+    g.Balls[0].onTable = false;
+    EXPECT_FALSE(isSpotBlocked(g, 550, 600));
 }

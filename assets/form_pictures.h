@@ -1,0 +1,25 @@
+// The pictures of the small forms: the splash, zeph's face and its blink, the OK and Cancel
+// buttons, and the program's icon.
+#pragma once
+
+#include <QImage>
+
+namespace morvane::assets {
+
+inline constexpr int kZephFrameCount = 5;
+
+// The title on a dark ground, a large ball in the middle, the credits at the foot.
+QImage openingPicture();
+
+// zeph's face, eyes open at frame 0 and shut at the last frame.
+QImage zephFace(int frame);
+
+// The five frames side by side.
+QImage zephFrames();
+
+QImage buttonPicture(const QString& caption);
+
+// A nine ball on a transparent ground.
+QImage iconPicture(int size);
+
+} // namespace morvane::assets

@@ -1,0 +1,175 @@
+#include "sim/shot_command.h"
+
+#include "sim/commands.h"
+#include "sim/table_json.h"
+#include "table/break_run.h"
+#include "table/launch.h"
+#include "table/rack.h"
+#include "table/shot_input.h"
+#include "table/table_queries.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <ostream>
+#include <random>
+
+namespace morvane::sim {
+
+using nlohmann::json;
+
+namespace {
+
+// Every ball stops by friction long before this; the limit only guards the tool.
+constexpr int kMaxShotFrames = 20000;
+// A hit point a hair beyond the rim still counts, as the selector can give one.
+constexpr double kHitPointSlack = 1e-6;
+
+struct ShotOptions {
+    bool seeded = false;
+    uint64_t seed = 0;
+    bool trace = false;
+};
+
+std::string readOptions(const std::vector<std::string>& options, ShotOptions& read) {
+    for (size_t k = 0; k < options.size(); ++k) {
+        if (options[k] == "--trace") {
+            read.trace = true;
+        } else if (options[k] == "--seed") {
+            if (k + 1 >= options.size())
+                return "--seed: expects a number";
+            const std::string& text = options[++k];
+            char* end = nullptr;
+            read.seed = std::strtoull(text.c_str(), &end, 10);
+            if (text.empty() || *end != '\0' || text[0] == '-')
+                return "--seed: '" + text + "' is not a whole number";
+            read.seeded = true;
+        } else {
+            return "unknown option '" + options[k] + "'";
+        }
+    }
+    return "";
+}
+
+// The hit point [spinSide, spinFollow], each -1..1, the pair no longer than 1.
+std::string readHitPoint(const json& input, BallType& cue) {
+    if (!input.contains("hit"))
+        return "";
+    PointType hit;
+    std::string error = readPoint(input, "hit", hit);
+    if (!error.empty())
+        return "hit: expected [spinSide, spinFollow] with numbers";
+    if (std::fabs(hit.x) > 1 || std::fabs(hit.y) > 1)
+        return "hit: each of spinSide and spinFollow must lie from -1 to 1";
+    if (std::hypot(double(hit.x), double(hit.y)) > 1 + kHitPointSlack)
+        return "hit: the hit point lies beyond the rim of the ball (length above 1)";
+    cue.spinSide = hit.x;
+    cue.spinFollow = hit.y;
+    return "";
+}
+
+// Sets up the table and the inputs of the shot as the input says.
+std::string readShot(const json& input, GameState& g) {
+    rackBalls(g);
+    std::string error = readBalls(input, g.Balls);
+    if (error.empty() && input.contains("balls") && !input.contains("aim"))
+        error = "aim: missing (needed with balls)";
+    PointType aim{g.aimX, g.aimY};
+    if (error.empty())
+        error = readPoint(input, "aim", aim);
+    int power = kPowerMax;
+    if (error.empty())
+        error = readWholeNumber(input, "power", kPowerMin, kPowerMax, power);
+    bool isBreak = false;
+    if (error.empty())
+        error = readFlag(input, "break", isBreak);
+    if (error.empty())
+        error = readHitPoint(input, g.Balls[kCueBall]);
+    if (!error.empty())
+        return error;
+    g.aimX = aim.x;
+    g.aimY = aim.y;
+    setPower(g, int16_t(power));
+    g.breakPending = isBreak;
+    return "";
+}
+
+struct ShotEvent {
+    int frame;
+    float time;
+    int ball;
+    int partner;
+    int pocket;
+};
+
+// Lists every contact of the shot, and traces it on the error stream if asked.
+class EventLog : public ContactObserver {
+  public:
+    EventLog(std::ostream& err, bool trace) : err_(err), trace_(trace) {}
+    int frame = 0;
+    std::vector<ShotEvent> events;
+
+    void onContact(float time, int ball, int partner, int pocket) override {
+        events.push_back({frame, time, ball, partner, pocket});
+        if (trace_)
+            err_ << "frame " << frame << " t=" << time << " ball " << ball << " partner " << partner
+                 << (pocket ? " pocket " + std::to_string(pocket) : "") << "\n";
+    }
+
+  private:
+    std::ostream& err_;
+    bool trace_;
+};
+
+json resultOf(const GameState& g, const EventLog& log, int frames) {
+    json pocketed = json::array();
+    for (int k = 0; k < g.pocketedCount; ++k)
+        pocketed.push_back(g.pocketedThisShot[k]);
+    json events = json::array();
+    for (const ShotEvent& e : log.events) {
+        json item = {
+            {"frame", e.frame}, {"time", e.time}, {"ball", e.ball}, {"partner", e.partner}};
+        if (e.pocket != 0)
+            item["pocket"] = e.pocket;
+        events.push_back(item);
+    }
+    return {{"balls", ballsToJson(g.Balls)},  {"pocketed", pocketed},
+            {"firstHitBall", g.firstHitBall}, {"frames", frames},
+            {"stopped", isAllStopped(g)},     {"events", events}};
+}
+
+} // namespace
+
+int runShotCommand(const std::vector<std::string>& options, std::istream& in, std::ostream& out,
+                   std::ostream& err) {
+    ShotOptions opts;
+    json input;
+    std::string error = readOptions(options, opts);
+    if (error.empty())
+        error = readInputObject(in, input);
+    GameState g;
+    if (error.empty())
+        error = readShot(input, g);
+    if (!error.empty()) {
+        err << "morvane-sim shot: " << error << "\n";
+        return kBadInput;
+    }
+
+    SeededRandom random(opts.seeded ? opts.seed : std::random_device{}());
+    EventLog log(err, opts.trace);
+    g.ports.random = &random;
+    g.ports.contacts = &log;
+
+    // Timer1's ticks, as fast as they come, until the tick that finds every ball at rest.
+    cmdShot_Click(g);
+    int frames = 0;
+    do {
+        log.frame = frames;
+        runShotTick(g);
+        ++frames;
+    } while (!isAllStopped(g) && frames < kMaxShotFrames);
+
+    out << resultOf(g, log, frames).dump() << "\n";
+    return 0;
+}
+
+} // namespace morvane::sim

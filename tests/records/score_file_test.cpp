@@ -1,0 +1,171 @@
+#include "records/score_file.h"
+#include "support/temp_home.h"
+#include "table/text.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace morvane;
+
+namespace {
+
+using ScoreFile = morvane::testing::TempHomeTest;
+
+const std::string kZephName = "zeph" + std::string(16, ' ');
+
+SoloRecordType soloRow(const std::string& name, int16_t shots, int16_t time, int16_t turn,
+                       const std::string& balls, const std::string& date) {
+    return {fitToWidth(name, 20), shots, turn, time, balls, getNumOfBallFromBalls(balls), date, 0};
+}
+
+TEST_F(ScoreFile, NoFileGivesTheDefaultTablesAndLevelOne) {
+    GameState g;
+    g.zephLevel = 7;
+    loadSoloRecord(g);
+    loadVsCpuRecord(g);
+    loadZephLevel(g);
+    for (int i = 1; i <= 10; ++i) {
+        const SoloRecordType& s = g.soloRecords[i];
+        EXPECT_EQ(std::tie(s.Name, s.Shots, s.Turn, s.Time, s.Balls, s.numOfBalls, s.Date, s.place),
+                  std::tuple(kZephName, 0, 10, 3600, "000000000", 0, "98/01/01", i));
+        const VsCpuRecordType& v = g.vsCpuRecords[i];
+        EXPECT_EQ(std::tie(v.Name, v.YouWon, v.CPUWon, v.winRate, v.Date, v.Time, v.LevelOfZeph),
+                  std::tuple(kZephName, 0, 0, 0.0f, "98/01/01", 3600, 0));
+        EXPECT_EQ(v.place, i);
+    }
+    EXPECT_EQ(g.zephLevel, 1);
+    EXPECT_EQ(g.zephProgress, 0);
+    EXPECT_TRUE(folderEntries().empty()) << "reading creates no file";
+}
+
+TEST_F(ScoreFile, SavesTheSoloTableInItsExactForm) {
+    GameState g;
+    g.soloRecords[1] = soloRow("zeph", 14, 312, 1, "123456789", "98/02/11");
+    g.soloRecords[2] = soloRow("Ann", 9, -45, 2, "020000009", "25/12/31");
+    saveSoloRecord(g);
+    std::vector<std::string> expected = {"[SOLO]",
+                                         "Shots01= 14",
+                                         "Time01= 312",
+                                         "Turn01= 1",
+                                         "Name01=zeph" + std::string(16, ' '),
+                                         "Balls01=123456789",
+                                         "Date01=98/02/11",
+                                         "Shots02= 9",
+                                         "Time02=-45",
+                                         "Turn02= 2",
+                                         "Name02=Ann" + std::string(17, ' '),
+                                         "Balls02=020000009",
+                                         "Date02=25/12/31"};
+    for (std::string row : {"03", "04", "05", "06", "07", "08", "09", "10"}) {
+        expected.insert(expected.end(), {"Shots" + row + "= 0", "Time" + row + "= 3600",
+                                         "Turn" + row + "= 10", "Name" + row + "=" + kZephName,
+                                         "Balls" + row + "=000000000", "Date" + row + "=98/01/01"});
+    }
+    EXPECT_EQ(lines("MVSCORE.INI"), expected);
+}
+
+TEST_F(ScoreFile, EachSaveRewritesOnlyItsOwnSection) {
+    GameState g;
+    g.vsCpuRecords[1] = {fitToWidth("Bob", 20), 3, 2, 0.6f, "26/01/02", 75, 11, 1};
+    g.zephLevel = 4;
+    g.zephProgress = 1;
+    saveSoloRecord(g);
+    saveZephLevel(g);
+    saveVsCpuRecord(g);
+    const auto all = lines("MVSCORE.INI");
+    ASSERT_EQ(all.size(), 61u + 3u + 61u);
+    const std::vector<std::string> zephAndFirstRow(all.begin() + 61, all.begin() + 71);
+    EXPECT_EQ(zephAndFirstRow,
+              (std::vector<std::string>{"[ZEPH]", "LV= 4", "PG= 1", "[VSCPU]",
+                                        "Name01=Bob" + std::string(17, ' '), "Date01=26/01/02",
+                                        "Time01= 75", "YouWon01= 3", "CPUWon01= 2",
+                                        "LevelOfZeph01= 11"}));
+    g.soloRecords[3].Shots = 5;
+    saveSoloRecord(g);
+    auto after = lines("MVSCORE.INI");
+    EXPECT_EQ(after[13], "Shots03= 5");
+    after[13] = all[13];
+    EXPECT_EQ(after, all);
+}
+
+TEST_F(ScoreFile, RowsComeBackEqualInEveryField) {
+    GameState g;
+    for (int i = 1; i <= 10; ++i)
+        g.soloRecords[i] = soloRow("玉突き" + std::to_string(i), int16_t(30 - i), int16_t(99 * i),
+                                   int16_t(i % 4 + 1), i % 2 ? "100000009" : "023456789",
+                                   "26/01/0" + std::to_string(i % 10));
+    g.vsCpuRecords[2] = {fitToWidth("Dee", 20), 3, 1, 0.75f, "26/05/06", 88, 6, 2};
+    saveSoloRecord(g);
+    saveVsCpuRecord(g);
+    g.soloRecords[4].Name = fitToWidth("  Carol", 20);
+    saveSoloRecord(g);
+
+    GameState back;
+    loadSoloRecord(back);
+    loadVsCpuRecord(back);
+    g.soloRecords[4].Name = fitToWidth("Carol", 20); // blanks at the ends are lost
+    for (int i = 1; i <= 10; ++i) {
+        const SoloRecordType &a = back.soloRecords[i], &b = g.soloRecords[i];
+        EXPECT_EQ(std::tie(a.Name, a.Shots, a.Turn, a.Time, a.Balls, a.numOfBalls, a.Date),
+                  std::tie(b.Name, b.Shots, b.Turn, b.Time, b.Balls, b.numOfBalls, b.Date));
+    }
+    const VsCpuRecordType &v = back.vsCpuRecords[2], &w = g.vsCpuRecords[2];
+    EXPECT_EQ(std::tie(v.Name, v.YouWon, v.CPUWon, v.winRate, v.Date, v.Time, v.LevelOfZeph),
+              std::tie(w.Name, w.YouWon, w.CPUWon, w.winRate, w.Date, w.Time, w.LevelOfZeph));
+}
+
+TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKey) {
+    const std::string longName = "ＡＢＣＤＥＦＧＨＩＪＫＬＭＮＯＰＱＲＳＴＵＶＷＸＹＺ1234";
+    writeFile("MVSCORE.INI", "[ZEPH]\nPG=7\nLV=0\n"
+                             "[solo]\nshots10 = 25\nName01=" +
+                                 longName +
+                                 "\nBalls01=12009\n"
+                                 "Turn01=x\nTime02=99999\nDate02=  26/7/4  \n"
+                                 "[VSCPU]\nYouWon03=2\n");
+    GameState g;
+    loadSoloRecord(g);
+    loadVsCpuRecord(g);
+    loadZephLevel(g);
+    EXPECT_EQ(g.soloRecords[10].Shots, 25);
+    EXPECT_EQ(g.soloRecords[9].Shots, 0);
+    EXPECT_EQ(g.soloRecords[1].Name, longName.substr(0, 20 * 3)) << "30 characters cut to 20";
+    EXPECT_EQ(g.soloRecords[1].Balls, "12009    ");
+    EXPECT_EQ(g.soloRecords[1].numOfBalls, 7) << "blanks count as balls";
+    EXPECT_EQ(g.soloRecords[1].Turn, 0) << "a value that is no number";
+    EXPECT_EQ(g.soloRecords[1].Time, 3600);
+    EXPECT_EQ(g.soloRecords[2].Time, 32767) << "kept within a 16-bit field";
+    EXPECT_EQ(g.soloRecords[2].Date, "26/7/4  ");
+    EXPECT_EQ(g.vsCpuRecords[3].winRate, 1.0f);
+    EXPECT_EQ(g.zephLevel, 1);
+    EXPECT_EQ(g.zephProgress, 7) << "progress has no bound";
+
+    writeFile("MVSCORE.INI", "[ZEPH]\nLV=99\n");
+    loadZephLevel(g);
+    EXPECT_EQ(g.zephLevel, 11);
+}
+
+TEST_F(ScoreFile, RandomBytesLoadAsRowsOfTheirWidth) {
+    std::mt19937 random(11);
+    std::string noise;
+    for (int i = 0; i < 16 * 1024; ++i)
+        noise += i % 997 ? std::string(1, char(random())) : "\n[SOLO]\nName01=";
+    writeFile("MVSCORE.INI", noise);
+    GameState g;
+    loadSoloRecord(g);
+    loadZephLevel(g);
+    EXPECT_EQ(codePointCount(g.soloRecords[1].Name), 20);
+    EXPECT_EQ(g.soloRecords[1].Name.find('\0'), std::string::npos);
+    EXPECT_TRUE(g.zephLevel >= 1 && g.zephLevel <= 11);
+}
+
+TEST(ScoreValues, CountBallsAndWinRate) {
+    EXPECT_EQ(getNumOfBallFromBalls("000000000"), 0);
+    EXPECT_EQ(getNumOfBallFromBalls("123456789"), 9);
+    EXPECT_EQ(getNumOfBallFromBalls("000000009"), 1);
+    EXPECT_EQ(winRate(3, 1), 0.75f);
+    EXPECT_EQ(winRate(0, 0), 0.0f);
+    EXPECT_EQ(winRate(2, 1), float(2.0 / 3.0));
+}
+
+} // namespace

@@ -1,0 +1,141 @@
+#include "sim/commands.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <sstream>
+
+using morvane::sim::runCommand;
+using nlohmann::json;
+
+namespace {
+
+struct CommandRun {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+CommandRun runShot(const std::string& input, std::vector<std::string> options = {"--seed", "9"}) {
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream err;
+    options.insert(options.begin(), "shot");
+    const int status = runCommand(options, in, out, err);
+    return {status, out.str(), err.str()};
+}
+
+json shotResult(const std::string& input, std::vector<std::string> options = {"--seed", "9"}) {
+    const CommandRun run = runShot(input, options);
+    EXPECT_EQ(run.status, 0) << run.err;
+    return json::parse(run.out);
+}
+
+// The cue ball and ball 1 alone on the table, the rest off it.
+std::string twoBalls(double x1, double y1, const std::string& rest) {
+    json balls = json::array();
+    balls.push_back({{"x", 600}, {"y", 600}});
+    balls.push_back({{"x", x1}, {"y", y1}});
+    for (int n = 2; n < 10; ++n)
+        balls.push_back({{"x", 100 + n * 100}, {"y", 1000}, {"onTable", false}});
+    return "{\"balls\":" + balls.dump() + "," + rest + "}";
+}
+
+} // namespace
+
+TEST(ShotCommand, FullPowerBreakRunsToRestAndReportsTheShot) {
+    const json r = shotResult(R"({"break": true, "aim": [1700, 600], "power": 100})");
+    ASSERT_EQ(r["balls"].size(), 10u);
+    EXPECT_EQ(r["firstHitBall"], 1);
+    EXPECT_TRUE(r["stopped"].get<bool>());
+    EXPECT_GT(r["frames"].get<int>(), 20);
+    const json& events = r["events"];
+    ASSERT_FALSE(events.empty());
+    EXPECT_EQ(events[0]["ball"], 0); // the cue ball reaching the rack
+    EXPECT_EQ(events[0]["partner"], 1);
+    for (const json& ball : r["balls"])
+        EXPECT_LE(ball["speed"].get<double>(), 0);
+    // Every ball listed as pocketed is off the table, and has its capture among the events.
+    for (const json& n : r["pocketed"]) {
+        EXPECT_FALSE(r["balls"][n.get<int>()]["onTable"].get<bool>());
+        EXPECT_TRUE(std::any_of(events.begin(), events.end(), [&](const json& e) {
+            return e["ball"] == n && e.contains("pocket");
+        }));
+    }
+}
+
+TEST(ShotCommand, SameSeedSameShotAndTheSeedMatters) {
+    const std::string input = R"({"break": true, "aim": [1700, 600]})";
+    EXPECT_EQ(shotResult(input), shotResult(input));
+    EXPECT_NE(shotResult(input, {"--seed", "1"})["balls"],
+              shotResult(input, {"--seed", "2"})["balls"]);
+}
+
+TEST(ShotCommand, DeadOnHitLeavesTheCueBallWhereItMetTheObjectBall) {
+    // Ball 1 runs to the far cushion and back, but not as far back as the cue ball.
+    const json r = shotResult(twoBalls(800, 600, R"("aim": [800, 600], "power": 35)"));
+    EXPECT_EQ(r["firstHitBall"], 1);
+    EXPECT_EQ(r["events"][0]["ball"], 0);
+    EXPECT_EQ(r["events"][0]["partner"], 1);
+    EXPECT_EQ(r["events"][1]["partner"], 102);
+    EXPECT_NEAR(r["balls"][0]["x"].get<double>(), 700, 0.01);
+    EXPECT_NEAR(r["balls"][1]["y"].get<double>(), 600, 0.01);
+    EXPECT_TRUE(r["pocketed"].empty());
+}
+
+TEST(ShotCommand, ObjectBallSentIntoTheCornerIsPocketed) {
+    // Ball 1 on the line from the cue ball to the top right corner, where the cushion lines meet.
+    const json r = shotResult(
+        twoBalls(1700, 945.714, R"("aim": [1700, 945.714], "power": 90, "hit": [0, -0.5])"));
+    ASSERT_EQ(r["pocketed"].size(), 1u);
+    EXPECT_EQ(r["pocketed"][0], 1);
+    EXPECT_FALSE(r["balls"][1]["onTable"].get<bool>());
+    const json& capture = r["events"][1];
+    EXPECT_EQ(capture["ball"], 1);
+    EXPECT_EQ(capture["pocket"], 3);
+}
+
+TEST(ShotCommand, TraceWritesOneLinePerContact) {
+    const CommandRun run =
+        runShot(R"({"break": true, "aim": [1700, 600]})", {"--seed", "4", "--trace"});
+    ASSERT_EQ(run.status, 0);
+    const json r = json::parse(run.out);
+    EXPECT_EQ(size_t(std::count(run.err.begin(), run.err.end(), '\n')), r["events"].size());
+}
+
+TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"not json", "input"},
+        {"[1, 2]", "input"},
+        {R"({"power": "full"})", "power"},
+        {R"({"power": 34})", "power"},
+        {R"({"power": 101})", "power"},
+        {R"({"hit": [0.8, 0.8]})", "hit"},
+        {R"({"hit": [0, 1.2]})", "hit"},
+        {R"({"hit": "left"})", "hit"},
+        {R"({"break": "yes"})", "break"},
+        {R"({"aim": [1]})", "aim"},
+        {R"({"balls": [{"x": 600, "y": 600}]})", "balls"},
+        {twoBalls(2351, 600, R"("aim": [0, 0])"), "balls[1]"},
+        {twoBalls(1200, 49, R"("aim": [0, 0])"), "balls[1]"},
+        {twoBalls(1200, 600, R"("power": 50)"), "aim"},
+    };
+    for (const auto& [input, field] : cases) {
+        const CommandRun run = runShot(input);
+        EXPECT_EQ(run.status, 2) << input;
+        EXPECT_TRUE(run.out.empty()) << input;
+        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+        EXPECT_NE(run.err.find(field + ":"), std::string::npos) << run.err;
+    }
+    EXPECT_EQ(runShot("{}", {"--seed"}).status, 2);
+    EXPECT_EQ(runShot("{}", {"--fast"}).status, 2);
+}
+
+TEST(Commands, UnknownOrMissingCommandIsRefused) {
+    std::istringstream in;
+    std::ostringstream out, err;
+    EXPECT_EQ(runCommand({"bounce"}, in, out, err), 2);
+    EXPECT_EQ(runCommand({}, in, out, err), 2);
+    EXPECT_NE(err.str().find("usage"), std::string::npos);
+}

@@ -1,0 +1,121 @@
+#include "rules/music.h"
+#include "startup/settings.h"
+#include "support/temp_home.h"
+#include "table/timers.h"
+
+#include <gtest/gtest.h>
+
+using namespace morvane;
+
+namespace {
+
+class RecordingPorts : public ScreenPort, public SoundPort {
+  public:
+    std::vector<std::string> messages;
+    std::vector<std::string> music;
+    void showPlainMessage(const std::string& text) override { messages.push_back(text); }
+    void sendMusic(const std::string& command) override { music.push_back(command); }
+};
+
+class Settings : public morvane::testing::TempHomeTest {
+  protected:
+    RecordingPorts ports;
+    GameState g;
+
+    void SetUp() override {
+        TempHomeTest::SetUp();
+        g.ports.screen = &ports;
+        g.ports.sound = &ports;
+        const char* files[] = {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"};
+        for (int i = 0; i < kBgmTrackCount; ++i)
+            g.bgmTracks[i].file = files[i];
+    }
+    void start() {
+        readHiColorSetting(g);
+        readSoundAndMusicSettings(g);
+        bringSwitchesIntoLine(g);
+    }
+    std::string settings() const { return readFile("MORVANE.INI"); }
+};
+
+TEST_F(Settings, AFirstStartTurnsEverythingOnAndWritesTheThreeKeysInOrder) {
+    start();
+    EXPECT_EQ(settings(), "[MORVANE]\nBGM=-1\nSOUND= 1\nHiColor=-1\n");
+    EXPECT_EQ(std::tie(g.soundOn, g.bgmOn, g.hiColor, g.hiColorPending), std::tuple(1, -1, -1, -1));
+    const ControlsState& c = g.controls;
+    EXPECT_TRUE(c.soundPicOn && c.bgmPicOn && c.colorPicOn && c.mnuSoundChecked);
+    EXPECT_TRUE(isTimerEnabled(g, kTimBGM));
+    EXPECT_TRUE(ports.messages.empty()) << "the main window is still hidden";
+}
+
+TEST_F(Settings, StoredValuesAreReadAndWrittenBackInTheirOwnForm) {
+    writeFile("MORVANE.INI", "[morvane]\nhicolor=1\nSOUND=2\nBGM=5\n");
+    start();
+    EXPECT_EQ(g.hiColor, 1) << "this run still loads the picture files";
+    EXPECT_EQ(g.soundOn, 0) << "2 is not 1, so the sound goes off";
+    EXPECT_FALSE(g.controls.soundPicOn || g.controls.mnuSoundChecked);
+    EXPECT_EQ(g.bgmOn, -1);
+    EXPECT_EQ(settings(), "[morvane]\nhicolor=-1\nSOUND= 0\nBGM=-1\n");
+
+    writeFile("MORVANE.INI", "[MORVANE]\nHiColor=0\nSOUND=on\nBGM=off\n");
+    start();
+    EXPECT_EQ(std::tie(g.hiColor, g.hiColorPending, g.soundOn, g.bgmOn), std::tuple(0, 0, 0, 0));
+    EXPECT_FALSE(g.controls.colorPicOn || isTimerEnabled(g, kTimBGM));
+    EXPECT_EQ(settings(), "[MORVANE]\nHiColor= 0\nSOUND= 0\nBGM= 0\n");
+}
+
+TEST_F(Settings, SoundSwitchesFromThePictureAndTheMenu) {
+    g.soundOn = 0;
+    picSound_Click(g, 1); // the picture on show while sound is off
+    EXPECT_EQ(g.soundOn, 1);
+    EXPECT_TRUE(g.controls.soundPicOn);
+    EXPECT_EQ(settings(), "[MORVANE]\nSOUND= 1\n");
+    g.soundOn = 2;
+    mnuSound_Click(g);
+    EXPECT_EQ(g.soundOn, 0);
+    EXPECT_FALSE(g.controls.mnuSoundChecked);
+    mnuSound_Click(g);
+    EXPECT_EQ(g.soundOn, 1);
+    EXPECT_TRUE(g.controls.mnuSoundChecked);
+    EXPECT_EQ(settings(), "[MORVANE]\nSOUND= 1\n");
+}
+
+TEST_F(Settings, MusicOffClosesEveryTrackAndOnComesBackWithTheMenuTrack) {
+    setTimerInterval(g, kTimBGM, 500);
+    g.bgmScene = 2;
+    picBGM_Click(g, 0);
+    EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(0, -1, 2));
+    EXPECT_FALSE(isTimerEnabled(g, kTimBGM) || g.controls.bgmPicOn);
+    EXPECT_EQ(ports.music,
+              (std::vector<std::string>{"close menu.mid", "close record.mid", "close game1.mid",
+                                        "close game2.mid", "close game3.mid"}));
+    EXPECT_EQ(settings(), "[MORVANE]\nBGM= 0\n");
+
+    g.nowMs = 1000;
+    picBGM_Click(g, 1);
+    EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(-1, 0, -1));
+    EXPECT_TRUE(isTimerEnabled(g, kTimBGM) && g.controls.bgmPicOn);
+    EXPECT_EQ(g.timers[kTimBGM].dueAt, 1500);
+    EXPECT_EQ(ports.music.size(), 5u) << "switching on sends nothing";
+    EXPECT_EQ(settings(), "[MORVANE]\nBGM=-1\n");
+}
+
+TEST_F(Settings, TheColourSwitchSpeaksOnlyWhenTheWindowShowsAndTheValueChanges) {
+    g.controls.mainWindowVisible = true;
+    picColor_Click(g, 0);
+    EXPECT_EQ(settings(), "[MORVANE]\nHiColor= 0\n");
+    EXPECT_FALSE(g.controls.colorPicOn);
+    picColor_Click(g, 1);
+    EXPECT_EQ(settings(), "[MORVANE]\nHiColor=-1\n") << "two clicks leave the file as it was";
+    EXPECT_EQ(ports.messages,
+              (std::vector<std::string>{"色数を256色に変更します。次回起動から有効です。",
+                                        "色数をTrue Colorに変更します。次回起動から有効です。"}));
+    picColor_Click(g, 1); // no change
+    g.controls.mainWindowVisible = false;
+    picColor_Click(g, 0); // window hidden
+    EXPECT_EQ(ports.messages.size(), 2u);
+    EXPECT_EQ(g.hiColorPending, 0);
+    EXPECT_EQ(g.hiColor, -1) << "the pictures of this run don't change";
+}
+
+} // namespace
