@@ -8,6 +8,8 @@
 #include "table/rack.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QPixmap>
 #include <QScreen>
 #include <chrono>
 #include <memory>
@@ -43,6 +45,7 @@ int main(int argc, char* argv[]) {
     g->controls.windowCaption = std::string("MORVANE Ver.") + kVersion;
 
     MainWindow window(*g, screen);
+    window.setWindowIcon(QIcon(QPixmap::fromImage(windowIcon())));
     TimerDriver driver(
         *g, [&window] { window.syncControlsFromState(); },
         [&screen] { return screen.modalFormsShown(); });

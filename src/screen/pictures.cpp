@@ -1,21 +1,20 @@
 #include "screen/pictures.h"
 
+#include "picture_names.h"
+
 namespace morvane {
 
-namespace {
-QImage resourcePicture(const char* path) {
-    return QImage(QString::fromUtf8(path));
-}
-} // namespace
-
 QImage tablePicture() {
-    return resourcePicture(":/pictures/picTable.png");
+    return QImage(pictures::kTable);
 }
 QImage cueBallPicture() {
-    return resourcePicture(":/pictures/picSetPoint.png");
+    return QImage(pictures::kSetPoint);
 }
 QImage okPicture() {
-    return resourcePicture(":/pictures/picOK.png");
+    return QImage(pictures::kOk);
+}
+QImage windowIcon() {
+    return QImage(pictures::kIcon);
 }
 
 } // namespace morvane
