@@ -4,6 +4,7 @@
 #include "screen/mouse_buttons.h"
 #include "table/constants.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace morvane {
@@ -17,6 +18,21 @@ constexpr QRgb kQBallRed = qRgb(255, 0, 0);
 
 bool sameMarker(const MarkerState& a, const MarkerState& b) {
     return a.left == b.left && a.top == b.top && a.visible == b.visible;
+}
+
+// The pixels a marker's outline may touch.
+QRect markerArea(const MarkerState& marker) {
+    return QRectF(marker.left, marker.top, kBallPixels, kBallPixels)
+        .toAlignedRect()
+        .adjusted(-1, -1, 1, 1);
+}
+
+// Repaints where a marker was and where it is now, if it moved.
+void repaintMovedMarker(QWidget& view, const MarkerState& painted, const MarkerState& now) {
+    if (sameMarker(painted, now))
+        return;
+    view.update(markerArea(painted));
+    view.update(markerArea(now));
 }
 
 // An outline of ballPixels across with its top left corner at the marker's place.
@@ -47,13 +63,13 @@ void PoolView::syncFromState() {
     setEnabled(c.poolEnabled);
     lblZephsMessage_->setText(QString::fromStdString(c.zephsMessage));
     lblZephsMessage_->setVisible(c.zephsMessageVisible);
-    if (!sameMarker(c.target, paintedTarget_) || !sameMarker(c.qBall, paintedQBall_))
-        update();
+    repaintMovedMarker(*this, paintedTarget_, c.target);
+    repaintMovedMarker(*this, paintedQBall_, c.qBall);
 }
 
-void PoolView::paintEvent(QPaintEvent*) {
+void PoolView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.drawImage(0, 0, view_);
+    painter.drawImage(event->rect(), view_, event->rect());
     drawMarker(painter, g_.controls.qBall, kQBallRed);
     drawMarker(painter, g_.controls.target, kTargetCyan);
     paintedTarget_ = g_.controls.target;

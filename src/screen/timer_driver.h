@@ -1,6 +1,6 @@
-// Drives the game's timers with real time: one precise Qt timer looks every millisecond for due
-// timers and runs them through the scheduler. Optionally writes down every game tick, when it
-// started and what it cost, to the file named by MORVANE_TICK_LOG.
+// Drives the game's timers with real time: one precise Qt timer wakes when the next timer is due
+// (and at least every 10 ms) and runs the due ones through the scheduler. Optionally writes down
+// every game tick, when it started and what it cost, to the file named by MORVANE_TICK_LOG.
 #pragma once
 
 #include "table/game_state.h"
@@ -26,6 +26,7 @@ class TimerDriver : public QObject {
 
   private:
     void poll();
+    void sleepUntilNextDue();
     void logTick(double startedMs, double costMs, bool openedForm);
 
     GameState& g_;
