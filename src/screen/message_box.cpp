@@ -1,12 +1,12 @@
 #include "screen/message_box.h"
 
+#include "records/integer16.h"
 #include "screen/fonts.h"
 #include "table/text.h"
+#include "table/view_coords.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <algorithm>
-#include <climits>
 #include <cmath>
 #include <cstdint>
 
@@ -19,29 +19,28 @@ constexpr double kHalfEm = 0.5;
 constexpr double kMinimumOverOk = 1.2;
 constexpr double kFormOverText = 1.2;
 constexpr double kLabelIndent = 0.1;
-constexpr int kTwipsPerPixel = 15;
 constexpr int kLabelTopTwips = 120;
 constexpr int kOkTopTwips = 720;
 
 // A whole number as the 16-bit integers of the game hold it, rounded half to even.
-int16_t toInteger16(double v) {
-    const double rounded = std::nearbyint(v);
-    return int16_t(std::clamp(rounded, double(INT16_MIN), double(INT16_MAX)));
+int16_t roundToInteger16(double v) {
+    return toInteger16(int64_t(std::nearbyint(v)));
 }
 
 } // namespace
 
 MessageBoxLayout layoutMessageBox(const std::string& text, double fontPoints, int okWidthTwips) {
     MessageBoxLayout layout;
-    int w = toInteger16(std::floor(codePointCount(text) * kTwipsPerPoint * fontPoints * kHalfEm));
-    const int m = toInteger16(okWidthTwips * kMinimumOverOk);
+    int w =
+        roundToInteger16(std::floor(codePointCount(text) * kTwipsPerPoint * fontPoints * kHalfEm));
+    const int m = roundToInteger16(okWidthTwips * kMinimumOverOk);
     if (w < m) {
         w = m;
         layout.labelWidth = m;
     }
     layout.formWidth = w * kFormOverText;
     layout.labelLeft = w * kLabelIndent;
-    layout.okLeft = (toInteger16(layout.formWidth) - okWidthTwips) / 2;
+    layout.okLeft = (roundToInteger16(layout.formWidth) - okWidthTwips) / 2;
     return layout;
 }
 
