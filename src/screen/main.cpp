@@ -7,6 +7,11 @@
 #include "startup/scheduler.h"
 #include "table/rack.h"
 
+#if __has_include("cpu/pocket_table.h")
+#include "cpu/pocket_table.h"
+#define MORVANE_HAVE_ZEPH 1
+#endif
+
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
@@ -42,6 +47,9 @@ int main(int argc, char* argv[]) {
     QtScreen screen(*g, tablePicture(), cueBallPicture(), okPicture());
     g->ports.screen = &screen;
     initTimers(*g);
+#ifdef MORVANE_HAVE_ZEPH
+    initPocketTable(*g);
+#endif
     g->controls.windowCaption = std::string("MORVANE Ver.") + kVersion;
 
     MainWindow window(*g, screen);

@@ -112,5 +112,22 @@ TEST_F(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
     EXPECT_EQ(kCloth, backPixel(509, 269));
 }
 
+TEST_F(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
+    putBallAtPixel(1, 200, 150);
+    screen->drawTable();
+    g.controls.target = {300, 100, true}; // the cyan circle's box is 300..319 by 100..119
+    g.controls.qBall = {190, 140, false};
+    window->syncControlsFromState();
+    QImage shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(restingColour(1), shown.pixel(200, 150) | 0xff000000);
+    EXPECT_EQ(qRgb(0, 255, 255), shown.pixel(300, 110) | 0xff000000);
+    EXPECT_EQ(kCloth, shown.pixel(310, 110) | 0xff000000);
+    // With the ball in hand the red outline stands over the ball's picture.
+    g.controls.qBall.visible = true;
+    window->syncControlsFromState();
+    shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(qRgb(255, 0, 0), shown.pixel(190, 150) | 0xff000000);
+}
+
 } // namespace
 } // namespace morvane::testing
