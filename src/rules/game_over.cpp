@@ -39,7 +39,7 @@ std::string winnerMessage(const std::string& winner) {
 }
 
 void endMatchAgainstZeph(GameState& g, int16_t winner) {
-    growZephAfterMatch(g, winner == 0);
+    creditZephMatch(g, winner == 0);
     saveZephLevel(g);
     if (doseLankInVSCpu(g)) {
         sortVsCPURecord(g);

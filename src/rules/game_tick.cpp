@@ -4,7 +4,6 @@
 #include "rules/next_shot.h"
 #include "rules/shot_judging.h"
 #include "table/break_run.h"
-#include "table/motion.h"
 #include "table/table_queries.h"
 #include "table/timers.h"
 
@@ -51,10 +50,7 @@ void finishShot(GameState& g) {
 } // namespace
 
 void Timer1_Timer(GameState& g) {
-    if (g.breakPending)
-        runBreakTick(g);
-    else
-        runFrame(g);
+    runShotTick(g);
     g.ports.screen->drawTable();
     if (isAllStopped(g))
         finishShot(g);

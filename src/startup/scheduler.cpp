@@ -1,5 +1,6 @@
 #include "startup/scheduler.h"
 
+#include "cpu/turn_driver.h"
 #include "rules/demo.h"
 #include "rules/game_clock.h"
 #include "rules/game_tick.h"
@@ -74,6 +75,8 @@ void fireTimer(GameState& g, TimerId timer) {
         timTimeCounter_Timer(g);
         break;
     case kTimCom:
+        timCom_Timer(g);
+        break;
     case kTimBGM:
     case kTimerCount:
         break;

@@ -41,4 +41,10 @@ int16_t getCushionFacing(const PointType& p, const PointType& q) {
     return kCushionRight;
 }
 
+bool isWithinContact(const BallType& ball, float x, float y) {
+    const double dx = double(ball.x) - x;
+    const double dy = double(ball.y) - y;
+    return dx * dx + dy * dy < double(kContactDistance) * kContactDistance;
+}
+
 } // namespace morvane

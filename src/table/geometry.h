@@ -19,9 +19,18 @@ float getDistance(const PointType& p, const PointType& q);
 int16_t getCushionFacing(const PointType& p, const PointType& q);
 
 // On a tie both give the second argument.
-template <typename A, typename B> auto maxOf(A a, B b) { return a > b ? a : b; }
-template <typename A, typename B> auto minOf(A a, B b) { return a < b ? a : b; }
+template <typename A, typename B> auto maxOf(A a, B b) {
+    return a > b ? a : b;
+}
+template <typename A, typename B> auto minOf(A a, B b) {
+    return a < b ? a : b;
+}
 
-inline PointType centreOf(const BallType& ball) { return {ball.x, ball.y}; }
+inline PointType centreOf(const BallType& ball) {
+    return {ball.x, ball.y};
+}
+
+// The ball's centre lies strictly nearer than a ball's diameter to (x, y).
+bool isWithinContact(const BallType& ball, float x, float y);
 
 } // namespace morvane

@@ -26,11 +26,7 @@ std::string getPocketedString(const GameState& g) {
 
 bool isSpotBlocked(const GameState& g, float x, float y) {
     for (const BallType& ball : g.Balls) {
-        if (!ball.onTable)
-            continue;
-        const double dx = double(ball.x) - x;
-        const double dy = double(ball.y) - y;
-        if (dx * dx + dy * dy < double(kContactDistance) * kContactDistance)
+        if (ball.onTable && isWithinContact(ball, x, y))
             return true;
     }
     return false;

@@ -13,6 +13,7 @@ class GameOver : public RulesTest {
   protected:
     // The nine alone with the cue ball below it, straight into the top middle pocket.
     void sinkTheNine() {
+        g.breakPending = false;
         setTable(g, {{0, 1200, 800}, {9, 1200, 1000}});
         shootToRest(1200, 1000, 60);
     }

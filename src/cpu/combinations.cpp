@@ -1,0 +1,37 @@
+#include "cpu/combinations.h"
+
+#include "cpu/road_tests.h"
+#include "cpu/shot_geometry.h"
+
+namespace morvane {
+
+bool isCombinationPocket(const GameState& g, int p) {
+    const ShotScene scene = sceneOf(g);
+    return isPathBlockedExcept(g, g.pocketTable[p], scene.target, scene.t);
+}
+
+PointType ghostForPocket(const GameState& g, int p) {
+    const ShotScene scene = sceneOf(g);
+    const PointType& pocket = g.pocketTable[p];
+    const int16_t k = findBlockingBall(g, pocket, scene.target, scene.t);
+    if (k == 0)
+        return ghostPoint(scene.target, pocket);
+    const PointType second = ghostPoint(centreOf(g.Balls[k]), pocket);
+    return ghostPoint(scene.target, second);
+}
+
+PocketGhosts plainGhosts(const GameState& g, const ShotScene& scene, int first, int last) {
+    PocketGhosts ghost{};
+    for (int p = first; p <= last; ++p)
+        ghost[p] = ghostPoint(scene.target, g.pocketTable[p]);
+    return ghost;
+}
+
+void findCombinationGhosts(const GameState& g, PocketGhosts& ghost, PocketFlags& isCombination) {
+    for (int p = kFirstPocket; p <= kLastPocket; ++p) {
+        isCombination[p] = isCombinationPocket(g, p);
+        ghost[p] = ghostForPocket(g, p);
+    }
+}
+
+} // namespace morvane

@@ -1,0 +1,13 @@
+// Potting the target ball straight from where the cue ball stands.
+#pragma once
+
+#include "cpu/shot_plan.h"
+
+namespace morvane {
+
+// The pocket with the smallest cut whose ghost point the cue ball can reach.
+void tryDirect(GameState& g, ShotPlan& plan);
+// The same, where a ball between the target and a pocket becomes the second ball of a combination.
+void tryDirectCombination(GameState& g, ShotPlan& plan);
+
+} // namespace morvane

@@ -1,0 +1,25 @@
+// A random source that hands out the numbers a test gives it, and counts the
+// draws.
+#pragma once
+
+#include "table/ports.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace morvane::cputest {
+
+class ScriptedRandom : public RandomPort {
+public:
+  explicit ScriptedRandom(std::vector<double> values)
+      : values_(std::move(values)) {}
+  double next() override {
+    return draws < values_.size() ? values_[draws++] : 0.5;
+  }
+  std::size_t draws = 0;
+
+private:
+  std::vector<double> values_;
+};
+
+} // namespace morvane::cputest
