@@ -16,12 +16,14 @@
 
 namespace morvane::testing {
 
+// One application for the whole test program. It is never destroyed: torn down among the
+// program's other statics at exit it would outlive parts of Qt it still needs.
 inline QApplication& application() {
     static int argc = 1;
     static char name[] = "test_screen";
     static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    static QApplication* app = new QApplication(argc, argv);
+    return *app;
 }
 
 constexpr QRgb kCloth = qRgb(0, 112, 0);
