@@ -1,4 +1,5 @@
 // The game: the window, the timers, and a solo game ready for the break.
+#include "cpu/pocket_table.h"
 #include "rules/modes.h"
 #include "screen/main_window.h"
 #include "screen/pictures.h"
@@ -6,11 +7,6 @@
 #include "screen/timer_driver.h"
 #include "startup/scheduler.h"
 #include "table/rack.h"
-
-#if __has_include("cpu/pocket_table.h")
-#include "cpu/pocket_table.h"
-#define MORVANE_HAVE_ZEPH 1
-#endif
 
 #include <QApplication>
 #include <QIcon>
@@ -47,9 +43,7 @@ int main(int argc, char* argv[]) {
     QtScreen screen(*g, tablePicture(), cueBallPicture(), okPicture());
     g->ports.screen = &screen;
     initTimers(*g);
-#ifdef MORVANE_HAVE_ZEPH
     initPocketTable(*g);
-#endif
     g->controls.windowCaption = std::string("MORVANE Ver.") + kVersion;
 
     MainWindow window(*g, screen);
