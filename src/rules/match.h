@@ -7,6 +7,9 @@
 
 namespace morvane {
 
+// The shot button's size of type while a match or the demo names the shooter.
+constexpr float kVersusShotFontSize = 12;
+
 void nameSides(GameState& g, const char* first, const char* second);
 void setTwoPlayerDefaults(GameState& g);
 void setCpuMatchDefaults(GameState& g);

@@ -15,7 +15,6 @@ namespace {
 
 enum MenuLabel { kLabelMenu = 0, kLabelStart = 1, kLabelBack = 2 };
 
-constexpr float kVersusShotFontSize = 12;
 constexpr float kSoloShotFontSize = 24;
 constexpr int kSoloShotFontPixels = 25;
 
