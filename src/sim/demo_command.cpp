@@ -19,14 +19,11 @@ namespace {
 constexpr int64_t kMostGames = 1000000;
 
 json gameToJson(int number, const DemoGame& game) {
-    return {{"game", number},
-            {"ended", game.ended},
-            {"shots", game.shots},
-            {"turns", game.turns},
-            {"fouls", game.fouls},
-            {"nine", game.nineBy},
-            {"gameSeconds", game.gameSeconds},
-            {"simulatedSeconds", game.simulatedSeconds}};
+    json line = playedGameToJson(game);
+    line.erase("balls");
+    line["game"] = number;
+    line["nine"] = game.nineBy;
+    return line;
 }
 
 // The value at a share of the way through a sorted list, the nearer rank taken.
@@ -65,10 +62,7 @@ DemoGame playDemoGame(HeadlessSession& session, StrategyTally& tally,
         const ShotWatch::Change change = watch.look(g);
         if (g.gameMode != kModeDemo)
             break; // the tick that ended the game has cleared the counters
-        game.shots = g.shotCount;
-        game.turns = g.turnCount;
-        game.fouls = g.foulCount;
-        game.gameSeconds = g.gameSeconds;
+        game.shown = statisticsOf(g);
         if (change == ShotWatch::Change::ShotEnded && afterShot)
             afterShot(g);
     }
@@ -105,7 +99,7 @@ int runDemoCommand(const std::vector<std::string>& options, std::ostream& out, s
     for (int k = 1; k <= games; ++k) {
         const DemoGame game = playDemoGame(session, tally);
         out << gameToJson(k, game).dump() << "\n";
-        shots.push_back(game.shots);
+        shots.push_back(game.shown.shots);
         if (game.ended)
             ++nineBy[game.nineBy];
         else

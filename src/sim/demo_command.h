@@ -11,14 +11,10 @@
 
 namespace morvane::sim {
 
-struct DemoGame {
-    bool ended = false;
-    int16_t shots = 0;
-    int16_t turns = 0;
-    int16_t fouls = 0;
-    int32_t gameSeconds = 0;     // the game clock
-    double simulatedSeconds = 0; // virtual time from the start of the demo to the menu
-    std::string nineBy;          // the side of the shot that ended the game: "You" or "zeph"
+// The statistics are those of the game before its last shot: no form shows them at the end of a
+// demo game, and the last shot changes none of them but the balls, which aren't kept.
+struct DemoGame : PlayedGame {
+    std::string nineBy; // the side of the shot that ended the game: "You" or "zeph"
 };
 
 // Starts the demo from the menu and runs the timers until it is back on the menu. afterShot, when

@@ -20,23 +20,23 @@ void HeadlessScreen::showPlainMessage(const std::string& text) {
     messages.push_back(text);
 }
 
-ShownStatistics HeadlessScreen::statisticsNow() const {
+ShownStatistics statisticsOf(const GameState& g) {
     ShownStatistics shown;
-    shown.shots = g_.shotCount;
-    shown.turns = g_.turnCount;
-    shown.fouls = g_.foulCount;
-    shown.gameSeconds = g_.gameSeconds;
-    shown.balls = getPocketedString(g_);
-    shown.gamesWon = {g_.players[0].gamesWon, g_.players[1].gamesWon};
+    shown.shots = g.shotCount;
+    shown.turns = g.turnCount;
+    shown.fouls = g.foulCount;
+    shown.gameSeconds = g.gameSeconds;
+    shown.balls = getPocketedString(g);
+    shown.gamesWon = {g.players[0].gamesWon, g.players[1].gamesWon};
     return shown;
 }
 
 void HeadlessScreen::showRecordForm() {
-    statistics.push_back(statisticsNow());
+    statistics.push_back(statisticsOf(g_));
 }
 
 void HeadlessScreen::showVsResult() {
-    ShownStatistics shown = statisticsNow();
+    ShownStatistics shown = statisticsOf(g_);
     shown.winner = g_.players[0].hasBreak ? 0 : 1;
     shown.matchOver = shown.gamesWon[shown.winner] >= g_.matchTarget;
     statistics.push_back(shown);

@@ -31,6 +31,9 @@ struct ShownStatistics {
     bool matchOver = false;
 };
 
+// The statistics of the game as it stands.
+ShownStatistics statisticsOf(const GameState& g);
+
 class HeadlessScreen : public ScreenPort {
   public:
     HeadlessScreen(GameState& g, FormAnswers answers);
@@ -49,8 +52,6 @@ class HeadlessScreen : public ScreenPort {
     void showChangeVsMode() override;
 
   private:
-    ShownStatistics statisticsNow() const;
-
     GameState& g_;
     FormAnswers answers_;
 };

@@ -77,15 +77,13 @@ bool playMatch(HeadlessSession& session, StandInPlayer& you, int number, Tally& 
         if (!s.matchOver)
             continue;
         ++tally.matches[s.winner];
-        out << json{{"match", number},
+        json result{{"match", number},
                     {"winner", kSideNames[s.winner]},
                     {"youWon", s.gamesWon[kYou]},
                     {"zephWon", s.gamesWon[kZeph]},
-                    {"zephLevel", g.zephLevel},
-                    {"zephProgress", g.zephProgress},
-                    {"recordPlace", takeNewRowPlace(g, g.vsCpuRecords)}}
-                   .dump()
-            << "\n";
+                    {"recordPlace", takeNewRowPlace(g, g.vsCpuRecords)}};
+        addZephLevel(result, g);
+        out << result.dump() << "\n";
         return true;
     }
 }
@@ -113,18 +111,16 @@ int runMatchCommand(const std::vector<std::string>& options, std::ostream& out, 
     Tally tally;
     for (int m = 1; m <= read.matches && playMatch(session, you, m, tally, out); ++m) {
     }
-    out << json{{"summary", true},
-                {"name", trimBlanks(g.players[kYou].name)},
-                {"youLevel", read.youLevel},
-                {"target", read.target},
-                {"startLevel", startLevel},
-                {"matchesWon", {{"You", tally.matches[kYou]}, {"zeph", tally.matches[kZeph]}}},
-                {"gamesWon", {{"You", tally.games[kYou]}, {"zeph", tally.games[kZeph]}}},
-                {"unfinished", tally.unfinished},
-                {"zephLevel", g.zephLevel},
-                {"zephProgress", g.zephProgress}}
-               .dump()
-        << "\n";
+    json summary{{"summary", true},
+                 {"name", trimBlanks(g.players[kYou].name)},
+                 {"youLevel", read.youLevel},
+                 {"target", read.target},
+                 {"startLevel", startLevel},
+                 {"matchesWon", {{"You", tally.matches[kYou]}, {"zeph", tally.matches[kZeph]}}},
+                 {"gamesWon", {{"You", tally.games[kYou]}, {"zeph", tally.games[kZeph]}}},
+                 {"unfinished", tally.unfinished}};
+    addZephLevel(summary, g);
+    out << summary.dump() << "\n";
     return 0;
 }
 

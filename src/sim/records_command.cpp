@@ -16,12 +16,10 @@ int runRecordsCommand(const std::vector<std::string>& options, std::ostream& out
         return reportBadInput(err, "records", error);
     const HeadlessSession session(0);
     const GameState& g = session.g;
-    out << nlohmann::json{{"soloRecords", soloRecordsToJson(g)},
-                          {"vsCpuRecords", vsCpuRecordsToJson(g)},
-                          {"zephLevel", g.zephLevel},
-                          {"zephProgress", g.zephProgress}}
-               .dump()
-        << "\n";
+    nlohmann::json records{{"soloRecords", soloRecordsToJson(g)},
+                           {"vsCpuRecords", vsCpuRecordsToJson(g)}};
+    addZephLevel(records, g);
+    out << records.dump() << "\n";
     return 0;
 }
 

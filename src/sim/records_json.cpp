@@ -36,4 +36,9 @@ json vsCpuRecordsToJson(const GameState& g) {
     return rows;
 }
 
+void addZephLevel(json& object, const GameState& g) {
+    object["zephLevel"] = g.zephLevel;
+    object["zephProgress"] = g.zephProgress;
+}
+
 } // namespace morvane::sim

@@ -15,6 +15,9 @@ namespace morvane::sim {
 nlohmann::json soloRecordsToJson(const GameState& g);
 nlohmann::json vsCpuRecordsToJson(const GameState& g);
 
+// zephLevel and zephProgress added to a JSON object.
+void addZephLevel(nlohmann::json& object, const GameState& g);
+
 // The row that the last sort marked as new. Only a sort run by the game just ended marks a row,
 // so ask only when that game opened the record screen.
 template <typename Row> std::optional<int> markedNewRow(const std::array<Row, 12>& rows) {
