@@ -61,15 +61,13 @@ void tryObjectBank(GameState& g, ShotPlan& plan) {
 }
 
 void tryCueBank(GameState& g, ShotPlan& plan) {
-    const PocketGhosts ghost = plainGhosts(g, sceneOf(g), kFirstPocket, kLastPocket);
-    takeBestCueBank(g, plan, ghost, {{}, kBankShot, kBankShot});
+    PocketRemarks remarks{{}, kBankShot, kBankShot};
+    takeBestCueBank(g, plan, pocketGhosts(g, false, remarks), remarks);
 }
 
 void tryCueBankCombination(GameState& g, ShotPlan& plan) {
-    PocketGhosts ghost{};
     PocketRemarks remarks{{}, kBankAndCombination, kBankShotExclaimed};
-    findCombinationGhosts(g, ghost, remarks.isCombination);
-    takeBestCueBank(g, plan, ghost, remarks);
+    takeBestCueBank(g, plan, pocketGhosts(g, true, remarks), remarks);
 }
 
 } // namespace morvane

@@ -27,11 +27,15 @@ PocketGhosts plainGhosts(const GameState& g, const ShotScene& scene, int first, 
     return ghost;
 }
 
-void findCombinationGhosts(const GameState& g, PocketGhosts& ghost, PocketFlags& isCombination) {
+PocketGhosts pocketGhosts(const GameState& g, bool withCombinations, PocketRemarks& remarks) {
+    if (!withCombinations)
+        return plainGhosts(g, sceneOf(g), kFirstPocket, kLastPocket);
+    PocketGhosts ghost{};
     for (int p = kFirstPocket; p <= kLastPocket; ++p) {
-        isCombination[p] = isCombinationPocket(g, p);
+        remarks.isCombination[p] = isCombinationPocket(g, p);
         ghost[p] = ghostForPocket(g, p);
     }
+    return ghost;
 }
 
 } // namespace morvane

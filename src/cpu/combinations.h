@@ -21,9 +21,6 @@ using PocketFlags = std::array<bool, kLastImage + 1>;
 
 // The plain ghost point of the target for entries first to last.
 PocketGhosts plainGhosts(const GameState& g, const ShotScene& scene, int first, int last);
-// For the six pockets: whether each is a combination, and its ghost point as ghostForPocket sees
-// it.
-void findCombinationGhosts(const GameState& g, PocketGhosts& ghost, PocketFlags& isCombination);
 
 // What zeph says of a shot at a pocket: one remark for a combination, another for a plain pot.
 struct PocketRemarks {
@@ -33,5 +30,9 @@ struct PocketRemarks {
 
     const Remark& forPocket(int p) const { return isCombination[p] ? combination : plain; }
 };
+
+// The ghost points for the six pockets. With combinations, a ball before a pocket is worked in as
+// the second ball, and the remarks learn which pockets those are; without, every ghost is plain.
+PocketGhosts pocketGhosts(const GameState& g, bool withCombinations, PocketRemarks& remarks);
 
 } // namespace morvane

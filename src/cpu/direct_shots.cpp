@@ -27,15 +27,13 @@ void takeBestPocket(GameState& g, ShotPlan& plan, const PocketGhosts& ghost,
 } // namespace
 
 void tryDirect(GameState& g, ShotPlan& plan) {
-    const PocketGhosts ghost = plainGhosts(g, sceneOf(g), kFirstPocket, kLastPocket);
-    takeBestPocket(g, plan, ghost, {{}, kSimpleIsBest, kSimpleIsBest});
+    PocketRemarks remarks{{}, kSimpleIsBest, kSimpleIsBest};
+    takeBestPocket(g, plan, pocketGhosts(g, false, remarks), remarks);
 }
 
 void tryDirectCombination(GameState& g, ShotPlan& plan) {
-    PocketGhosts ghost{};
     PocketRemarks remarks{{}, kCombinationShot, kEasyForMe};
-    findCombinationGhosts(g, ghost, remarks.isCombination);
-    takeBestPocket(g, plan, ghost, remarks);
+    takeBestPocket(g, plan, pocketGhosts(g, true, remarks), remarks);
 }
 
 } // namespace morvane

@@ -48,7 +48,10 @@ std::string fitToWidth(const std::string& text, int width) {
 }
 
 std::string signedNumberText(long value) {
-    return value < 0 ? std::to_string(value) : " " + std::to_string(value);
+    std::string text = std::to_string(value);
+    if (value >= 0)
+        text.insert(text.begin(), ' ');
+    return text;
 }
 
 } // namespace morvane

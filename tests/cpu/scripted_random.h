@@ -10,16 +10,18 @@
 namespace morvane::cputest {
 
 class ScriptedRandom : public RandomPort {
-public:
-  explicit ScriptedRandom(std::vector<double> values)
-      : values_(std::move(values)) {}
-  double next() override {
-    return draws < values_.size() ? values_[draws++] : 0.5;
-  }
-  std::size_t draws = 0;
+  public:
+    explicit ScriptedRandom(std::vector<double> values) : values_(std::move(values)) {}
+    // Past the end of the script every draw gives 0.5; every draw is counted.
+    double next() override {
+        const double value = draws < values_.size() ? values_[draws] : 0.5;
+        ++draws;
+        return value;
+    }
+    std::size_t draws = 0;
 
-private:
-  std::vector<double> values_;
+  private:
+    std::vector<double> values_;
 };
 
 } // namespace morvane::cputest

@@ -1,0 +1,96 @@
+#include "screen/pool_view.h"
+
+#include "screen/fonts.h"
+#include "screen/mouse_buttons.h"
+#include "table/constants.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace morvane {
+
+namespace {
+
+constexpr QRect kZephsMessageArea{88, 0, 357, 25};
+constexpr double kZephsMessagePoints = 14.25;
+constexpr QRgb kTargetCyan = qRgb(0, 255, 255);
+constexpr QRgb kQBallRed = qRgb(255, 0, 0);
+
+bool sameMarker(const MarkerState& a, const MarkerState& b) {
+    return a.left == b.left && a.top == b.top && a.visible == b.visible;
+}
+
+// The pixels a marker's outline may touch.
+QRect markerArea(const MarkerState& marker) {
+    return QRectF(marker.left, marker.top, kBallPixels, kBallPixels)
+        .toAlignedRect()
+        .adjusted(-1, -1, 1, 1);
+}
+
+// Repaints where a marker was and where it is now, if it moved.
+void repaintMovedMarker(QWidget& view, const MarkerState& painted, const MarkerState& now) {
+    if (sameMarker(painted, now))
+        return;
+    view.update(markerArea(painted));
+    view.update(markerArea(now));
+}
+
+// An outline of ballPixels across with its top left corner at the marker's place.
+void drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour) {
+    if (!marker.visible)
+        return;
+    painter.setPen(QColor(colour));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QRectF(marker.left, marker.top, kBallPixels - 1, kBallPixels - 1));
+}
+
+} // namespace
+
+PoolView::PoolView(const GameState& g, const QImage& view, QWidget* parent)
+    : QWidget(parent), g_(g), view_(view), lblZephsMessage_(new QLabel(this)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    lblZephsMessage_->setGeometry(kZephsMessageArea);
+    lblZephsMessage_->setStyleSheet("color: rgb(0, 255, 0); background: black;");
+    lblZephsMessage_->setFont(gameFont(g.isJapanese ? QStringLiteral("ＭＳ ゴシック") : "Arial",
+                                       kZephsMessagePoints, true));
+    lblZephsMessage_->hide();
+    lblZephsMessage_->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void PoolView::syncFromState() {
+    const ControlsState& c = g_.controls;
+    setEnabled(c.poolEnabled);
+    lblZephsMessage_->setText(QString::fromStdString(c.zephsMessage));
+    lblZephsMessage_->setVisible(c.zephsMessageVisible);
+    repaintMovedMarker(*this, paintedTarget_, c.target);
+    repaintMovedMarker(*this, paintedQBall_, c.qBall);
+}
+
+void PoolView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.drawImage(event->rect(), view_, event->rect());
+    drawMarker(painter, g_.controls.qBall, kQBallRed);
+    drawMarker(painter, g_.controls.target, kTargetCyan);
+    paintedTarget_ = g_.controls.target;
+    paintedQBall_ = g_.controls.qBall;
+}
+
+void PoolView::mousePressEvent(QMouseEvent* event) {
+    emit mouseDown(buttonCode(event->button()), float(event->position().x()),
+                   float(event->position().y()));
+}
+
+void PoolView::mouseMoveEvent(QMouseEvent* event) {
+    emit mouseMove(buttonsCode(event->buttons()), float(event->position().x()),
+                   float(event->position().y()));
+}
+
+void PoolView::mouseReleaseEvent(QMouseEvent* event) {
+    emit mouseUp(buttonCode(event->button()), float(event->position().x()),
+                 float(event->position().y()));
+    if (rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+} // namespace morvane

@@ -1,0 +1,87 @@
+#include "screen/qt_screen.h"
+
+#include "screen/information_bar.h"
+#include "screen/message_box.h"
+#include "screen/table_drawing.h"
+
+#include <QMessageBox>
+
+namespace morvane {
+
+QtScreen::QtScreen(GameState& g, const QImage& sheet, const QImage& cueBallPicture,
+                   const QImage& okPicture)
+    : g_(g), s_(makeSurfaces(sheet, cueBallPicture)), okPicture_(okPicture) {}
+
+void QtScreen::viewChanged() {
+    viewDirty_ = true;
+    if (!widgets_.view)
+        return;
+    if (g_.controls.poolKeepsPicture) {
+        widgets_.view->update();
+    } else {
+        // During a shot the frames go straight to the screen.
+        widgets_.view->repaint();
+        viewDirty_ = false;
+    }
+}
+
+void QtScreen::drawTable() {
+    drawTableFrame(g_, s_);
+    viewChanged();
+}
+
+void QtScreen::drawBallNow(int ball) {
+    drawBallOnView(g_, s_, ball);
+    viewDirty_ = true;
+    if (widgets_.view)
+        widgets_.view->update();
+}
+
+void QtScreen::drawBallDrop(int ball, int pocket) {
+    drawBallDropOnView(s_, ball, pocket);
+    viewDirty_ = true;
+    if (widgets_.view)
+        widgets_.view->update();
+}
+
+void QtScreen::drawTray() {
+    drawPocketedTray(g_, s_);
+    if (widgets_.tray)
+        widgets_.tray->update();
+}
+
+void QtScreen::refreshPool() {
+    if (widgets_.view)
+        widgets_.view->update();
+}
+
+void QtScreen::drawInformation() {
+    showInfomation(g_, s_);
+    if (widgets_.information)
+        widgets_.information->update();
+}
+
+// Paints what the frame has drawn so far on the view, and lets nothing else run.
+void QtScreen::yieldToPaint() {
+    if (!viewDirty_ || !widgets_.view)
+        return;
+    widgets_.view->repaint();
+    viewDirty_ = false;
+}
+
+void QtScreen::showMessage(const std::string& text) {
+    ++modalFormsShown_;
+    MessageBoxForm form(text, okPicture_, widgets_.mainWindow);
+    if (onMessageBox)
+        onMessageBox(form);
+    form.exec();
+}
+
+void QtScreen::showPlainMessage(const std::string& text) {
+    ++modalFormsShown_;
+    QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,
+                    widgets_.mainWindow);
+    box.exec();
+}
+
+} // namespace morvane

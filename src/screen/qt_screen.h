@@ -1,0 +1,57 @@
+// The screen the logic draws on: the table view, the tray, the information bar and the modal
+// message box, on Qt surfaces and widgets.
+#pragma once
+
+#include "screen/surfaces.h"
+#include "table/game_state.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+namespace morvane {
+
+// The widgets that show the surfaces; any may be missing, as in a test with no window.
+struct ScreenWidgets {
+    QPointer<QWidget> view;
+    QPointer<QWidget> tray;
+    QPointer<QWidget> information;
+    QPointer<QWidget> mainWindow;
+};
+
+class QtScreen : public ScreenPort {
+  public:
+    QtScreen(GameState& g, const QImage& sheet, const QImage& cueBallPicture,
+             const QImage& okPicture);
+
+    void attach(const ScreenWidgets& widgets) { widgets_ = widgets; }
+    Surfaces& surfaces() { return s_; }
+    const QImage& okPicture() const { return okPicture_; }
+    // How many modal forms have been opened so far; a tick that opens one is no frame to time.
+    int modalFormsShown() const { return modalFormsShown_; }
+    // Called with every message box just before it runs, so that a test can close it.
+    std::function<void(QDialog&)> onMessageBox;
+
+    void drawTable() override;
+    void drawBallNow(int ball) override;
+    void drawBallDrop(int ball, int pocket) override;
+    void drawTray() override;
+    void refreshPool() override;
+    void drawInformation() override;
+    void yieldToPaint() override;
+    void showMessage(const std::string& text) override;
+    void showPlainMessage(const std::string& text) override;
+
+  private:
+    // The view has changed: at rest it shows at the next paint, during a shot at once.
+    void viewChanged();
+
+    GameState& g_;
+    Surfaces s_;
+    QImage okPicture_;
+    ScreenWidgets widgets_;
+    bool viewDirty_ = false;
+    int modalFormsShown_ = 0;
+};
+
+} // namespace morvane

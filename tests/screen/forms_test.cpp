@@ -1,0 +1,90 @@
+// The message box sized to its text, closed by any key; the information bar's line by mode.
+#include "screen_fixture.h"
+
+#include "screen/information_bar.h"
+#include "screen/message_box.h"
+
+#include <QTest>
+#include <QTimer>
+
+namespace morvane::testing {
+namespace {
+
+class FormsTest : public ScreenTest {};
+
+TEST_F(FormsTest, AOneLetterMessageTakesOnePointTwoSquaredTheOkWidth) {
+    const MessageBoxLayout one = layoutMessageBox("A", kMsgFontPoints, kOkWidthTwips);
+    EXPECT_DOUBLE_EQ(990 * 1.2 * 1.2, one.formWidth);
+    EXPECT_EQ(1188, one.labelWidth);
+    EXPECT_EQ((1426 - 990) / 2, one.okLeft);
+
+    // A long text widens the form with it: half an em a character, and 1.2 times that.
+    const std::string longText(60, 'x');
+    const MessageBoxLayout wide = layoutMessageBox(longText, 12, kOkWidthTwips);
+    EXPECT_DOUBLE_EQ(60 * 120 * 1.2, wide.formWidth);
+    EXPECT_EQ(0, wide.labelWidth);
+    // A Japanese character counts as one.
+    EXPECT_DOUBLE_EQ(layoutMessageBox("ab", 12, 990).formWidth,
+                     layoutMessageBox("あい", 12, 990).formWidth);
+}
+
+TEST_F(FormsTest, TheMessageBoxIsModalSizedAndClosedByAnyKey) {
+    window->show();
+    QSize shown;
+    QString title;
+    screen->onMessageBox = [&](QDialog& form) {
+        shown = form.size();
+        title = form.windowTitle();
+        QTimer::singleShot(0,
+                           [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Q); });
+    };
+    screen->showMessage("You missed !");
+    EXPECT_EQ(QString("Massage from Morvane"), title);
+    EXPECT_EQ(QSize(qRound(12 * 120 * 1.2 / 15), 90), shown);
+    EXPECT_EQ(1, screen->modalFormsShown());
+
+    screen->showMessage("A");
+    EXPECT_EQ(QSize(95, 90), shown); // 1.2 x 1.2 the 66 pixels of the OK picture
+}
+
+TEST_F(FormsTest, TheInformationLineFollowsTheMode) {
+    g.turnCount = 3;
+    g.shotCount = 12;
+    g.foulCount = 1;
+    EXPECT_EQ(" Turn:3  Shot:12  Foul:1", informationText(g));
+
+    g.gameMode = kModeVersus;
+    g.versusCpu = true;
+    g.players[0] = {"You      ", true, 2};
+    g.players[1].gamesWon = 1;
+    g.zephLevel = 10;
+    EXPECT_EQ(" You  2 - 1 Lv.10 zeph ", informationText(g));
+    g.zephLevel = 11;
+    EXPECT_EQ(" You  2 - 1 Master  zeph ", informationText(g));
+    g.versusCpu = false;
+    g.players[1].name = " Player2 ";
+    EXPECT_EQ(" You  2 - 1  Player2", informationText(g));
+
+    g.gameMode = kModeDemo;
+    EXPECT_EQ(" Lv.11 zeph is demonstrating!!", informationText(g));
+}
+
+TEST_F(FormsTest, TheBarShowsTheNextBallAndKeepsItsPictureOnTheMenu) {
+    for (int i = 1; i <= 9; ++i)
+        putBallAtPixel(i, 100 + 20 * i, 150);
+    g.Balls[1].onTable = false;
+    screen->drawInformation();
+    const QImage& bar = screen->surfaces().information;
+    EXPECT_EQ(restingColour(2), bar.pixel(300, 11) | 0xff000000); // cell at (290, 1)
+    EXPECT_EQ(qRgb(0, 255, 0), bar.pixel(289, 10) | 0xff000000);  // the box's outline
+    EXPECT_EQ(qRgb(0, 255, 0), bar.pixel(310, 10) | 0xff000000);
+
+    const QImage before = bar.copy();
+    g.gameMode = kModeMenu;
+    g.Balls[2].onTable = false;
+    screen->drawInformation();
+    EXPECT_EQ(before, screen->surfaces().information);
+}
+
+} // namespace
+} // namespace morvane::testing

@@ -1,0 +1,155 @@
+// The window with real mouse and key events: the hit point, the aim, the cue ball in hand, the
+// power bar and the labels at the top, and the size of the client area.
+#include "screen_fixture.h"
+
+#include "rules/modes.h"
+#include "table/controls.h"
+#include "table/rack.h"
+#include "table/shot_input.h"
+#include "table/timers.h"
+#include "table/view_coords.h"
+
+#include <QTest>
+
+namespace morvane::testing {
+namespace {
+
+class WindowInputTest : public ScreenTest {
+  protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        rackBalls(g);
+        picSoloPlay_Click(g, 0);
+        window->syncControlsFromState();
+        window->show();
+    }
+
+    // A press at a point between pixels, as a real mouse event to the widget.
+    void pressAt(QWidget* w, QPointF at) {
+        QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(w, &press);
+        QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(w, &release);
+    }
+
+    QPoint cueBallPixel() const {
+        return QPoint(qRound(tableToPixelX(g.Balls[0].x)), qRound(tableToPixelY(g.Balls[0].y)));
+    }
+};
+
+TEST_F(WindowInputTest, TheClientAreaIs540By378WithTheViewUnderTheBar) {
+    EXPECT_EQ(QSize(540, 378), window->size());
+    EXPECT_EQ(QRect(0, 25, 540, 299), window->picPool()->geometry());
+    EXPECT_EQ(QRect(2, 327, 45, 45), window->picSetPoint()->geometry());
+    EXPECT_EQ(QRect(346, 347, 183, 25), window->picPocketedBalls()->geometry());
+    EXPECT_EQ(372, window->HScroll1()->geometry().bottom() + 1);
+}
+
+TEST_F(WindowInputTest, AClickOnTheBallPictureSetsTheHitPoint) {
+    QWidget* ball = window->picSetPoint();
+    g.Balls[0].spinSide = 0.7f;
+    QTest::mouseClick(ball, Qt::LeftButton, {}, QPoint(22, 23)); // within the dot's own circle
+    EXPECT_EQ(0.0f, g.Balls[0].spinSide);
+    EXPECT_EQ(0.0f, g.Balls[0].spinFollow);
+    EXPECT_EQ(20.0f, g.controls.pointLeft);
+
+    pressAt(ball, QPointF(44.5, 22.5)); // beyond the right rim
+    EXPECT_NEAR(1.0, g.Balls[0].spinSide, 1e-6);
+    EXPECT_NEAR(0.0, g.Balls[0].spinFollow, 1e-6);
+
+    pressAt(ball, QPointF(32.5, 22.5)); // half the offset gives a quarter of the spin
+    EXPECT_NEAR(0.25, g.Balls[0].spinSide, 1e-6);
+
+    QTest::mouseClick(ball, Qt::RightButton, {}, QPoint(22, 2)); // the top rim, any button
+    EXPECT_GT(g.Balls[0].spinFollow, 0.99f);
+}
+
+TEST_F(WindowInputTest, DraggingTheAimFollowsTheMouseAndTheReleaseClampsIt) {
+    g.breakPending = false;
+    QWidget* view = window->picPool();
+    QTest::mousePress(view, Qt::LeftButton, {}, QPoint(300, 150));
+    EXPECT_FLOAT_EQ(290, g.controls.target.left);
+    QTest::mouseMove(view, QPoint(530, 295));
+    EXPECT_FLOAT_EQ(520, g.controls.target.left); // no clamp while the button is down
+    EXPECT_FLOAT_EQ(285, g.controls.target.top);
+    QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(530, 295));
+    EXPECT_FLOAT_EQ(490, g.controls.target.left);
+    EXPECT_FLOAT_EQ(250, g.controls.target.top);
+    EXPECT_FLOAT_EQ(pixelToTableX(500), g.aimX);
+    EXPECT_FLOAT_EQ(pixelToTableY(260), g.aimY);
+}
+
+TEST_F(WindowInputTest, TheCueBallIsTakenOnlyInsideItsGrabCircle) {
+    ASSERT_TRUE(g.breakPending);
+    QWidget* view = window->picPool();
+    const float aimX = g.aimX;
+    const QPoint far = cueBallPixel() + QPoint(0, 30);
+    QTest::mousePress(view, Qt::LeftButton, {}, far);
+    EXPECT_FALSE(g.draggingCueBall);
+    EXPECT_EQ(aimX, g.aimX); // on the break a press elsewhere does nothing
+    QTest::mouseRelease(view, Qt::LeftButton, {}, far);
+
+    QTest::mousePress(view, Qt::LeftButton, {}, cueBallPixel() + QPoint(3, 3));
+    EXPECT_TRUE(g.draggingCueBall);
+    // Dragged off the table and let go there: it comes back inside the limits.
+    QTest::mouseMove(view, QPoint(535, 20));
+    QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(535, 20));
+    EXPECT_FLOAT_EQ(pixelToTableX(500), g.Balls[0].x);
+    EXPECT_FLOAT_EQ(pixelToTableY(40), g.Balls[0].y);
+    // The table was redrawn with the ball at its new place.
+    EXPECT_EQ(restingColour(0), backPixel(500, 40));
+}
+
+TEST_F(WindowInputTest, ThePowerBarMovesThePowerAndItsCaption) {
+    QScrollBar* bar = window->HScroll1();
+    EXPECT_EQ(100, bar->value());
+    bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    EXPECT_EQ(99, g.controls.power);
+    EXPECT_EQ(QString("POWER  99%"), window->lblPower()->text());
+    bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+    EXPECT_EQ(89, g.controls.power);
+    // A value set by the game shows on the bar without coming back as a change of the user's.
+    setPower(g, 50);
+    window->syncControlsFromState();
+    EXPECT_EQ(50, bar->value());
+}
+
+TEST_F(WindowInputTest, TheMenuLabelsLightUnderTheMouseExceptDuringAShot) {
+    QTest::mouseMove(window->lblMenu(2), QPoint(5, 5));
+    EXPECT_TRUE(g.controls.lblMenuHover[2]);
+    EXPECT_TRUE(window->lblMenu(2)->styleSheet().contains("#ff00ff"));
+    QTest::mouseMove(window->picPool(), QPoint(100, 100));
+    EXPECT_FALSE(g.controls.lblMenuHover[2]);
+    EXPECT_TRUE(window->lblMenu(2)->styleSheet().contains("#c000c0"));
+
+    setTimerEnabled(g, kTimer1, true);
+    QTest::mouseMove(window->lblMenu(2), QPoint(6, 6));
+    EXPECT_FALSE(g.controls.lblMenuHover[2]);
+    EXPECT_EQ(QString("一手戻る"), window->lblMenu(2)->toolTip());
+}
+
+TEST_F(WindowInputTest, F2RacksANewGameAndTheShotButtonFires) {
+    g.breakPending = false;
+    g.shotCount = 4;
+    g.controls.mnuStartEnabled = true;
+    window->syncControlsFromState();
+    QApplication::setActiveWindow(window.get()); // shortcuts go to the active window
+    QTest::keyClick(window.get(), Qt::Key_F2);
+    EXPECT_EQ(0, g.shotCount);
+    EXPECT_TRUE(g.breakPending);
+
+    advanceVirtualTime(g, g.nowMs + 330); // the break's aim swings meanwhile
+    QTest::mouseClick(window->cmdShot(), Qt::LeftButton);
+    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
+    EXPECT_FALSE(window->cmdShot()->isEnabled());
+    // The break runs to its end in virtual time and the controls come back.
+    EXPECT_TRUE(advanceUntil(g, g.nowMs + 60000, [this] { return !isTimerEnabled(g, kTimer1); }));
+    window->syncControlsFromState();
+    EXPECT_TRUE(window->cmdShot()->isEnabled());
+    EXPECT_FALSE(g.breakPending);
+}
+
+} // namespace
+} // namespace morvane::testing
