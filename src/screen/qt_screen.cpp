@@ -5,6 +5,7 @@
 #include "screen/forms/name_form.h"
 #include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
+#include "screen/forms/version_form.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
 #include "screen/table_drawing.h"
@@ -106,6 +107,11 @@ void QtScreen::showVsResult() {
     runModal(form, onForm);
 }
 
+
+void QtScreen::showVersion() {
+    VersionForm form(g_, widgets_.mainWindow);
+    runModal(form, onForm);
+}
 
 void QtScreen::showPlainMessage(const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,

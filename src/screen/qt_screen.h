@@ -47,6 +47,7 @@ class QtScreen : public ScreenPort {
     void showInputBox() override;
     void showChangeVsMode() override;
     void showVsResult() override;
+    void showVersion() override;
 
   private:
     // The view has changed: at rest it shows at the next paint, during a shot at once.

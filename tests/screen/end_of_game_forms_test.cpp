@@ -2,14 +2,19 @@
 // by its own buttons and keys, and what each hands back to the game.
 #include "screen_fixture.h"
 
+#include "picture_names.h"
 #include "screen/forms/match_form.h"
 #include "screen/forms/name_form.h"
+#include "screen/forms/opening_form.h"
 #include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
+#include "screen/forms/version_form.h"
 #include "screen/surfaces.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace morvane::testing {
@@ -256,6 +261,101 @@ TEST_F(EndOfGameFormsTest, TheResultPutsTheSideThatReachedTheTargetInMagenta) {
     screen->showVsResult();
     EXPECT_EQ(QString("Now, Break Time!"), headline);
     EXPECT_EQ((std::array<QColor, 5>{kGreen, kGreen, kGreen, kGreen, kGreen}), colours);
+}
+
+TEST_F(EndOfGameFormsTest, TheSplashGoesOnItsSixthTickOrAtAClick) {
+    int mainShown = 0;
+    OpeningForm splash(g, [&] { ++mainShown; });
+    splash.show();
+    EXPECT_EQ(QSize(229, 168), splash.size());
+    const QRect whole = screenRect();
+    EXPECT_EQ(QPoint((whole.width() - 229) / 2, (whole.height() - 168) / 2), splash.pos());
+    EXPECT_TRUE(splash.Timer1()->isActive());
+    EXPECT_EQ(1000, splash.Timer1()->interval());
+    EXPECT_EQ(QSize(229, 168), splash.picture().size());
+
+    for (int tick = 1; tick <= 5; ++tick)
+        splash.Timer1_Timer();
+    EXPECT_TRUE(splash.isVisible());
+    EXPECT_EQ(0, mainShown);
+    splash.Timer1_Timer();
+    EXPECT_FALSE(splash.isVisible());
+    EXPECT_FALSE(splash.Timer1()->isActive());
+    EXPECT_EQ(1, mainShown);
+
+    OpeningForm clicked(g, [&] { ++mainShown; });
+    clicked.show();
+    QTest::mouseClick(&clicked, Qt::LeftButton);
+    EXPECT_FALSE(clicked.isVisible());
+    EXPECT_FALSE(clicked.Timer1()->isActive());
+    EXPECT_EQ(2, mainShown);
+}
+
+TEST_F(EndOfGameFormsTest, TheSplashOfThe256ColourSetComesFromItsFile) {
+    QTemporaryDir folder;
+    ASSERT_TRUE(folder.isValid());
+    QImage file(229, 168, QImage::Format_RGB32);
+    file.fill(qRgb(10, 20, 30));
+    ASSERT_TRUE(file.save(folder.filePath(kOpeningFile256), "BMP"));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    g.hiColor = 0;
+    OpeningForm fromFile(g, nullptr);
+    g.hiColor = -1;
+    OpeningForm inner(g, nullptr);
+    QDir::setCurrent(before);
+
+    EXPECT_EQ(qRgb(10, 20, 30), fromFile.picture().pixel(100, 100) | 0xff000000);
+    EXPECT_EQ(QImage(pictures::kOpening).convertToFormat(QImage::Format_RGB32),
+              inner.picture().convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(EndOfGameFormsTest, TheVersionFormStatesTheLevelOrTheMaster) {
+    EXPECT_EQ(" Ver.3.02\n zeph's Level is 10.", versionCaption(10));
+    EXPECT_EQ(" Ver.3.02\n zeph's Level is 1.", versionCaption(1));
+    EXPECT_EQ(" Ver.3.02\n zeph is a Master!", versionCaption(11));
+
+    g.zephLevel = 11;
+    QString caption;
+    whenShown<VersionForm>([&](VersionForm& form) {
+        caption = form.Label1()->text();
+        form.Command1()->click();
+    });
+    screen->showVersion();
+    EXPECT_EQ(QString(" Ver.3.02\n zeph is a Master!"), caption);
+    EXPECT_EQ(QSize(332, 127), formSize);
+    const QRect whole = screenRect();
+    EXPECT_EQ(QPoint((whole.width() - 332) / 2, qRound((whole.height() - 127) * 0.4) / 2),
+              formPlace);
+}
+
+TEST_F(EndOfGameFormsTest, ZephsFaceBlinksTwiceAndAClickMidwayChangesNothing) {
+    VersionForm form(g, window.get());
+    form.show();
+    const QImage frames = QImage(pictures::kZephFrames).convertToFormat(QImage::Format_RGB32);
+    auto frame = [&](int n) { return frames.copy(32 * n, 0, 32, 32); };
+    EXPECT_FALSE(form.Timer1()->isActive());
+    EXPECT_EQ(50, form.Timer1()->interval());
+
+    QTest::mouseClick(form.picZeph(), Qt::LeftButton);
+    EXPECT_TRUE(form.Timer1()->isActive());
+    // Closing over frames 0 to 4, opening 4 to 0, twice.
+    const int expected[20] = {0, 1, 2, 3, 4, 4, 3, 2, 1, 0, 0, 1, 2, 3, 4, 4, 3, 2, 1, 0};
+    for (int c = 0; c < 20; ++c) {
+        form.Timer1_Timer();
+        EXPECT_EQ(frame(expected[c]), form.face().convertToFormat(QImage::Format_RGB32))
+            << "counter " << c;
+        if (c == 6) {
+            QTest::mouseClick(form.picZeph(), Qt::LeftButton);
+            EXPECT_EQ(7, form.frameCounter());
+        }
+    }
+    EXPECT_TRUE(form.Timer1()->isActive());
+    form.Timer1_Timer(); // the end: frame 0, the timer off, and the counter left at 1
+    EXPECT_FALSE(form.Timer1()->isActive());
+    EXPECT_EQ(1, form.frameCounter());
+    EXPECT_EQ(frame(0), form.face().convertToFormat(QImage::Format_RGB32));
+    EXPECT_NE(frame(0), frame(4));
 }
 
 } // namespace
