@@ -107,7 +107,6 @@ void QtScreen::showVsResult() {
     runModal(form, onForm);
 }
 
-
 void QtScreen::showVersion() {
     VersionForm form(g_, widgets_.mainWindow);
     runModal(form, onForm);

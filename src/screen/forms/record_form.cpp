@@ -29,9 +29,10 @@ QString zeroPadded(long value, int places) {
     return QString("%1").arg(value, places, 10, QChar('0'));
 }
 
-// Print tab n starts n - 1 average characters from the left edge.
+// Print tab n starts n - 1 average characters from the left edge; the average character is as
+// wide as an "x", as the system's text metrics reckon it.
 int tabColumn(const QFontMetrics& metrics, int column) {
-    return (column - 1) * metrics.averageCharWidth();
+    return (column - 1) * metrics.horizontalAdvance(QLatin1Char('x'));
 }
 
 } // namespace
