@@ -2,6 +2,7 @@
 
 #include "records/integer16.h"
 #include "screen/fonts.h"
+#include "screen/forms/form_parts.h"
 #include "table/text.h"
 #include "table/view_coords.h"
 
@@ -69,11 +70,8 @@ MessageBoxForm::MessageBoxForm(const std::string& text, const QImage& okPicture,
     picOK_->installEventFilter(this);
 
     setFixedSize(twipsToPixels(layout.formWidth), twipsToPixels(kMsgBoxHeightTwips));
-    if (mainWindow) {
-        const QRect main = mainWindow->geometry();
-        move(main.left() + (main.width() - width()) / 2,
-             main.top() + (main.height() - height()) / 2);
-    }
+    if (mainWindow)
+        centreOver(*this, mainWindow);
 }
 
 void MessageBoxForm::picOK_Click() {

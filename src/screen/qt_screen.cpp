@@ -1,5 +1,11 @@
 #include "screen/qt_screen.h"
 
+#include "picture_names.h"
+#include "screen/forms/match_form.h"
+#include "screen/forms/name_form.h"
+#include "screen/forms/record_form.h"
+#include "screen/forms/result_form.h"
+#include "screen/forms/version_form.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
 #include "screen/table_drawing.h"
@@ -69,19 +75,47 @@ void QtScreen::yieldToPaint() {
     viewDirty_ = false;
 }
 
-void QtScreen::showMessage(const std::string& text) {
+void QtScreen::runModal(QDialog& form, const std::function<void(QDialog&)>& beforeRunning) {
     ++modalFormsShown_;
-    MessageBoxForm form(text, okPicture_, widgets_.mainWindow);
-    if (onMessageBox)
-        onMessageBox(form);
+    if (beforeRunning)
+        beforeRunning(form);
     form.exec();
 }
 
+void QtScreen::showMessage(const std::string& text) {
+    MessageBoxForm form(text, okPicture_, widgets_.mainWindow);
+    runModal(form, onMessageBox);
+}
+
+void QtScreen::showRecordForm() {
+    RecordForm form(g_, s_.picBalls, okPicture_, widgets_.mainWindow);
+    runModal(form, onForm);
+}
+
+void QtScreen::showInputBox() {
+    NameForm form(g_, okPicture_, widgets_.mainWindow);
+    runModal(form, onForm);
+}
+
+void QtScreen::showChangeVsMode() {
+    MatchForm form(g_, okPicture_, QImage(pictures::kCancel), widgets_.mainWindow);
+    runModal(form, onForm);
+}
+
+void QtScreen::showVsResult() {
+    ResultForm form(g_, okPicture_, widgets_.mainWindow);
+    runModal(form, onForm);
+}
+
+void QtScreen::showVersion() {
+    VersionForm form(g_, widgets_.mainWindow);
+    runModal(form, onForm);
+}
+
 void QtScreen::showPlainMessage(const std::string& text) {
-    ++modalFormsShown_;
     QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,
                     widgets_.mainWindow);
-    box.exec();
+    runModal(box, nullptr);
 }
 
 } // namespace morvane

@@ -31,6 +31,8 @@ class QtScreen : public ScreenPort {
     int modalFormsShown() const { return modalFormsShown_; }
     // Called with every message box just before it runs, so that a test can close it.
     std::function<void(QDialog&)> onMessageBox;
+    // Called with each of the other modal forms just before it runs.
+    std::function<void(QDialog&)> onForm;
 
     void drawTable() override;
     void drawBallNow(int ball) override;
@@ -41,10 +43,17 @@ class QtScreen : public ScreenPort {
     void yieldToPaint() override;
     void showMessage(const std::string& text) override;
     void showPlainMessage(const std::string& text) override;
+    void showRecordForm() override;
+    void showInputBox() override;
+    void showChangeVsMode() override;
+    void showVsResult() override;
+    void showVersion() override;
 
   private:
     // The view has changed: at rest it shows at the next paint, during a shot at once.
     void viewChanged();
+    // Holds the caller until the form has closed; the timers tick on under it.
+    void runModal(QDialog& form, const std::function<void(QDialog&)>& beforeRunning);
 
     GameState& g_;
     Surfaces s_;

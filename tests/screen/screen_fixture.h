@@ -81,6 +81,7 @@ class ScreenTest : public ::testing::Test {
         screen->onMessageBox = [](QDialog& form) {
             QTimer::singleShot(0, &form, &QDialog::accept);
         };
+        screen->onForm = screen->onMessageBox;
         initTimers(g);
         g.gameMode = kModeSolo;
         for (BallType& b : g.Balls)
