@@ -1,5 +1,7 @@
 #include "screen/forms/version_form.h"
 
+#include "table/version.h"
+
 #include "picture_names.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
@@ -29,7 +31,7 @@ std::string versionCaption(int16_t zephLevel) {
     const std::string level = zephLevel > kHighestLevelShown
                                   ? " zeph is a Master!"
                                   : " zeph's Level is" + signedNumberText(zephLevel) + ".";
-    return std::string(" Ver.") + kProgramVersion + "\n" + level;
+    return std::string(" Ver.") + kVersion + "\n" + level;
 }
 
 // Eyes closing over five frames, opening again, and the same once more.

@@ -12,7 +12,6 @@
 
 namespace morvane {
 
-inline constexpr const char* kProgramVersion = "3.02";
 constexpr int kZephBlinkTickMs = 50;
 constexpr int kZephFaceSize = 32;
 
