@@ -123,5 +123,3 @@ void BM_WholeBreakAtFullPower(benchmark::State& state) {
 BENCHMARK(BM_FrameDuringBreakScatter);
 BENCHMARK(BM_FrameDuringOrdinaryShot);
 BENCHMARK(BM_WholeBreakAtFullPower)->Unit(benchmark::kMicrosecond);
-
-BENCHMARK_MAIN();
