@@ -1,5 +1,6 @@
 #include "screen/qt_screen.h"
 
+#include "screen/help_page.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
 #include "screen/table_drawing.h"
@@ -82,6 +83,14 @@ void QtScreen::showPlainMessage(const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,
                     widgets_.mainWindow);
     box.exec();
+}
+
+} // namespace morvane
+
+namespace morvane {
+
+void QtScreen::openHelp() {
+    openHelpPage();
 }
 
 } // namespace morvane

@@ -41,6 +41,7 @@ class QtScreen : public ScreenPort {
     void yieldToPaint() override;
     void showMessage(const std::string& text) override;
     void showPlainMessage(const std::string& text) override;
+    void openHelp() override;
 
   private:
     // The view has changed: at rest it shows at the next paint, during a shot at once.
