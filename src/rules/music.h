@@ -1,12 +1,27 @@
-// Background music: switching it on and off, and closing every track.
+// Background music: the table of tracks, the timer that starts, changes and restarts them, and
+// switching the music on and off. The tracks are driven by command strings ("open ", "play ",
+// "close " and the file name) and the program never asks whether a track has ended: it counts
+// its own ticks.
 #pragma once
 
 #include "table/game_state.h"
+
+#include <string>
 
 namespace morvane {
 
 // The number of tracks that carry a tune; the rest of bgmTracks stays empty.
 constexpr int kBgmTrackCount = 5;
+
+// Fills the five tracks and asks for the menu track at the next tick. The last step of start-up.
+void initBgmTable(GameState& g);
+// Hands a command to the music player; its answer is not looked at.
+void sendMci(GameState& g, const std::string& command);
+// Opens and plays the track of bgmScene and names it in the window's caption.
+void startBgmTrack(GameState& g);
+// Twice a second: changes the track when the scene wants another, and plays it again from the
+// start when its time has run out, though only while no ball is moving.
+void timBGM_Timer(GameState& g);
 
 // Sends "close " and the file of each of the five tracks, whether it is open or not.
 void closeAllTracks(GameState& g);

@@ -40,19 +40,27 @@ void updateBackAvailability(GameState& g) {
     g.controls.mnuRetryEnabled = g.gameMode == kModeSolo;
 }
 
-void setUpNextShot(GameState& g) {
+void showTableAtRest(GameState& g) {
     g.ports.screen->drawTable();
     g.controls.target.visible = true;
     g.ports.screen->drawBallNow(kCueBall);
     g.ports.screen->refreshPool();
+}
 
-    if (getLowestBall(g) != 0) {
-        setDefaultAim(g);
-        g.controls.target.visible = true;
-        if (g.ballInHand)
-            showCueBallInHand(g);
-    }
+void aimAtLowestBall(GameState& g) {
+    if (getLowestBall(g) == 0)
+        return;
+    setDefaultAim(g);
+    g.controls.target.visible = true;
+    if (g.ballInHand)
+        showCueBallInHand(g);
+    else
+        g.controls.qBall.visible = false;
+}
 
+void setUpNextShot(GameState& g) {
+    showTableAtRest(g);
+    aimAtLowestBall(g);
     g.ports.screen->drawTray();
     setShotControls(g, true);
     updateBackAvailability(g);

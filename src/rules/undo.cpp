@@ -4,7 +4,6 @@
 #include "rules/next_shot.h"
 #include "rules/shot_judging.h"
 #include "table/shot_input.h"
-#include "table/table_queries.h"
 
 namespace morvane {
 
@@ -21,20 +20,8 @@ void undoShot(GameState& g) {
     g.foulCount = int16_t(g.foulCount + 1);
 
     g.controls.poolKeepsPicture = true;
-    g.ports.screen->drawTable();
-    g.ports.screen->refreshPool();
-    g.controls.target.visible = true;
-    g.ports.screen->drawBallNow(kCueBall);
-    g.ports.screen->refreshPool();
-
-    if (getLowestBall(g) != 0) {
-        setDefaultAim(g);
-        g.controls.target.visible = true;
-        if (g.ballInHand)
-            showCueBallInHand(g);
-        else
-            g.controls.qBall.visible = false;
-    }
+    showTableAtRest(g);
+    aimAtLowestBall(g);
     g.ports.screen->drawTray();
     g.controls.shotEnabled = true;
     centrePointDot(g);

@@ -1,6 +1,11 @@
 #include "sim/commands.h"
 
+#include "sim/demo_command.h"
+#include "sim/match_command.h"
+#include "sim/records_command.h"
 #include "sim/shot_command.h"
+#include "sim/solo_command.h"
+#include "sim/think_command.h"
 
 #include <iostream>
 
@@ -10,9 +15,24 @@ namespace {
 
 int usage(std::ostream& err) {
     err << "usage: morvane-sim COMMAND [options]\n"
-           "commands:\n"
-           "  shot [--seed N] [--trace]   one shot: a table as JSON on stdin, the result on "
-           "stdout\n";
+           "commands (JSON out; the game's files are in $MORVANE_HOME):\n"
+           "  shot [--seed N] [--trace]\n"
+           "      one shot: a table as JSON on stdin, the result on stdout\n"
+           "  think --level L [--seed N]\n"
+           "      zeph's turn up to the shot on a table from stdin (as for shot, with optional\n"
+           "      ballInHand and breakPending): the plan, the aim, the power and the remark\n"
+           "  demo [--games N] [--level L] [--seed N]\n"
+           "      N demo games from the menu, one line each, then a summary\n"
+           "  match --you-level M [--target N] [--level L] [--matches K] [--name NAME] "
+           "[--seed N]\n"
+           "      K matches of N won games against zeph (from level L, else the level on disk),\n"
+           "      zeph's logic at level M playing your side; keeps the level and the records\n"
+           "  solo --name NAME [--level M] [--seed N]\n"
+           "      one solo game played by zeph's logic at level M (default 11), the name given\n"
+           "      for the record table\n"
+           "  records\n"
+           "      both record tables and zeph's level\n"
+           "bad input: one line on stderr and exit status 2\n";
     return kBadInput;
 }
 
@@ -26,6 +46,16 @@ int runCommand(const std::vector<std::string>& args, std::istream& in, std::ostr
     const std::vector<std::string> options(args.begin() + 1, args.end());
     if (command == "shot")
         return runShotCommand(options, in, out, err);
+    if (command == "think")
+        return runThinkCommand(options, in, out, err);
+    if (command == "demo")
+        return runDemoCommand(options, out, err);
+    if (command == "match")
+        return runMatchCommand(options, out, err);
+    if (command == "solo")
+        return runSoloCommand(options, out, err);
+    if (command == "records")
+        return runRecordsCommand(options, out, err);
     err << "morvane-sim: unknown command '" << command << "'\n";
     return usage(err);
 }

@@ -1,6 +1,6 @@
 #include "sim/shot_command.h"
 
-#include "sim/commands.h"
+#include "sim/command_options.h"
 #include "sim/table_json.h"
 #include "table/break_run.h"
 #include "table/launch.h"
@@ -9,9 +9,7 @@
 #include "table/table_queries.h"
 
 #include <cmath>
-#include <cstdlib>
 #include <ostream>
-#include <random>
 
 namespace morvane::sim {
 
@@ -23,32 +21,6 @@ namespace {
 constexpr int kMaxShotFrames = 20000;
 // A hit point a hair beyond the rim still counts, as the selector can give one.
 constexpr double kHitPointSlack = 1e-6;
-
-struct ShotOptions {
-    bool seeded = false;
-    uint64_t seed = 0;
-    bool trace = false;
-};
-
-std::string readOptions(const std::vector<std::string>& options, ShotOptions& read) {
-    for (size_t k = 0; k < options.size(); ++k) {
-        if (options[k] == "--trace") {
-            read.trace = true;
-        } else if (options[k] == "--seed") {
-            if (k + 1 >= options.size())
-                return "--seed: expects a number";
-            const std::string& text = options[++k];
-            char* end = nullptr;
-            read.seed = std::strtoull(text.c_str(), &end, 10);
-            if (text.empty() || *end != '\0' || text[0] == '-')
-                return "--seed: '" + text + "' is not a whole number";
-            read.seeded = true;
-        } else {
-            return "unknown option '" + options[k] + "'";
-        }
-    }
-    return "";
-}
 
 // The hit point [spinSide, spinFollow], each -1..1, the pair no longer than 1.
 std::string readHitPoint(const json& input, BallType& cue) {
@@ -141,21 +113,22 @@ json resultOf(const GameState& g, const EventLog& log, int frames) {
 
 int runShotCommand(const std::vector<std::string>& options, std::istream& in, std::ostream& out,
                    std::ostream& err) {
-    ShotOptions opts;
+    CommandOptions opts;
+    uint64_t seed = 0;
     json input;
-    std::string error = readOptions(options, opts);
+    std::string error = opts.read(options, {"--seed"}, {"--trace"});
+    if (error.empty())
+        error = opts.seed(seed);
     if (error.empty())
         error = readInputObject(in, input);
     GameState g;
     if (error.empty())
         error = readShot(input, g);
-    if (!error.empty()) {
-        err << "morvane-sim shot: " << error << "\n";
-        return kBadInput;
-    }
+    if (!error.empty())
+        return reportBadInput(err, "shot", error);
 
-    SeededRandom random(opts.seeded ? opts.seed : std::random_device{}());
-    EventLog log(err, opts.trace);
+    SeededRandom random(seed);
+    EventLog log(err, opts.has("--trace"));
     g.ports.random = &random;
     g.ports.contacts = &log;
 

@@ -4,6 +4,7 @@
 #include "rules/demo.h"
 #include "rules/game_clock.h"
 #include "rules/game_tick.h"
+#include "rules/music.h"
 #include "table/shot_input.h"
 #include "table/timers.h"
 
@@ -78,6 +79,8 @@ void fireTimer(GameState& g, TimerId timer) {
         timCom_Timer(g);
         break;
     case kTimBGM:
+        timBGM_Timer(g);
+        break;
     case kTimerCount:
         break;
     }

@@ -1,4 +1,4 @@
-#include "sim/commands.h"
+#include "command_run.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -7,39 +7,22 @@
 #include <sstream>
 
 using morvane::sim::runCommand;
+using morvane::testing::CommandRun;
+using morvane::testing::runTool;
+using morvane::testing::twoBalls;
 using nlohmann::json;
 
 namespace {
 
-struct CommandRun {
-    int status;
-    std::string out;
-    std::string err;
-};
-
 CommandRun runShot(const std::string& input, std::vector<std::string> options = {"--seed", "9"}) {
-    std::istringstream in(input);
-    std::ostringstream out;
-    std::ostringstream err;
     options.insert(options.begin(), "shot");
-    const int status = runCommand(options, in, out, err);
-    return {status, out.str(), err.str()};
+    return runTool(options, input);
 }
 
 json shotResult(const std::string& input, std::vector<std::string> options = {"--seed", "9"}) {
     const CommandRun run = runShot(input, options);
     EXPECT_EQ(run.status, 0) << run.err;
     return json::parse(run.out);
-}
-
-// The cue ball and ball 1 alone on the table, the rest off it.
-std::string twoBalls(double x1, double y1, const std::string& rest) {
-    json balls = json::array();
-    balls.push_back({{"x", 600}, {"y", 600}});
-    balls.push_back({{"x", x1}, {"y", y1}});
-    for (int n = 2; n < 10; ++n)
-        balls.push_back({{"x", 100 + n * 100}, {"y", 1000}, {"onTable", false}});
-    return "{\"balls\":" + balls.dump() + "," + rest + "}";
 }
 
 } // namespace

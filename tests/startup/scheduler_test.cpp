@@ -1,4 +1,5 @@
 // The scheduler of the six timers in virtual time.
+#include "rules/music.h"
 #include "startup/scheduler.h"
 #include "table/timers.h"
 
@@ -71,6 +72,29 @@ TEST(Scheduler, AdvanceUntilStopsAtTheFirstTickThatMeetsTheCondition) {
     EXPECT_TRUE(advanceUntil(g, 60000, [&] { return g.gameSeconds == 3; }));
     EXPECT_EQ(g.nowMs, 3000);
     EXPECT_FALSE(advanceUntil(g, 3500, [&] { return g.gameSeconds == 9; }));
+}
+
+TEST(Scheduler, TheMusicTimerStartsTheMenuTrackHalfASecondInThenEveryThirtyAndAHalfSeconds) {
+    struct : SoundPort {
+        std::vector<std::pair<int64_t, std::string>> plays;
+        const GameState* g = nullptr;
+        void sendMusic(const std::string& command) override {
+            if (command.rfind("play ", 0) == 0)
+                plays.push_back({g->nowMs, command});
+        }
+    } music;
+    GameState g;
+    music.g = &g;
+    g.ports.sound = &music;
+    initTimers(g);
+    initBgmTable(g);
+    setTimerEnabled(g, kTimBGM, true);
+    advanceVirtualTime(g, 92500);
+    const std::vector<std::pair<int64_t, std::string>> expected = {{500, "play menu.mid"},
+                                                                   {31500, "play menu.mid"},
+                                                                   {62000, "play menu.mid"},
+                                                                   {92500, "play menu.mid"}};
+    EXPECT_EQ(music.plays, expected);
 }
 
 } // namespace

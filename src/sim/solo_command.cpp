@@ -1,0 +1,45 @@
+#include "sim/solo_command.h"
+
+#include "cpu/cpu_constants.h"
+#include "rules/modes.h"
+#include "sim/command_options.h"
+#include "sim/played_game.h"
+#include "sim/records_json.h"
+
+#include <ostream>
+
+namespace morvane::sim {
+
+int runSoloCommand(const std::vector<std::string>& options, std::ostream& out, std::ostream& err) {
+    CommandOptions opts;
+    int64_t level = kZephLevelMax;
+    uint64_t seed = 0;
+    std::string error = opts.read(options, {"--name", "--level", "--seed"});
+    if (error.empty())
+        error = opts.require("--name");
+    if (error.empty())
+        error = opts.wholeNumber("--level", kZephLevelMin, kZephLevelMax, level);
+    if (error.empty())
+        error = opts.seed(seed);
+    if (!error.empty())
+        return reportBadInput(err, "solo", error);
+
+    FormAnswers answers;
+    answers.recordName = opts.text("--name");
+    HeadlessSession session(seed, answers);
+    GameState& g = session.g;
+    picSoloPlay_Click(g, 0);
+    StandInPlayer player{int16_t(level)};
+    const PlayedGame game = playToEndOfGame(session, player);
+    const nlohmann::json place = takeNewRowPlace(g, g.soloRecords);
+    nlohmann::json result = playedGameToJson(game);
+    result["level"] = level;
+    result["entered"] = !place.is_null();
+    result["place"] = place;
+    result["recordName"] = place.is_null() ? nlohmann::json(nullptr)
+                                           : nlohmann::json(g.soloRecords[place.get<int>()].Name);
+    out << result.dump() << "\n";
+    return 0;
+}
+
+} // namespace morvane::sim

@@ -1,0 +1,27 @@
+#include "sound/sdl_sound.h"
+
+namespace morvane {
+
+SdlSound::SdlSound(const std::filesystem::path& folder, std::ostream& warnings, int bufferSamples)
+    : warnings_(warnings), device_(warnings_, bufferSamples), effects_(folder, warnings_),
+      music_(folder, warnings_) {}
+
+void SdlSound::playEffect(const std::string& file, int flags) {
+    if (device_.isOpen())
+        effects_.play(file, flags);
+}
+
+void SdlSound::sendMusic(const std::string& command) {
+    if (device_.isOpen())
+        music_.command(command);
+}
+
+std::string SdlSound::effectPlaying() const {
+    return device_.isOpen() ? effects_.playing() : std::string();
+}
+
+std::string SdlSound::musicPlaying() const {
+    return device_.isOpen() ? music_.playing() : std::string();
+}
+
+} // namespace morvane

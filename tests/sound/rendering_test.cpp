@@ -1,0 +1,130 @@
+// An effect and a tune go through the real mixer into a file (the disk driver, at full speed)
+// and come out as sound, the effect at the level it was written with.
+#include "sound/sdl_sound.h"
+#include "sound_setup.h"
+#include "table/sounds.h"
+
+#include <SDL_mixer.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <vector>
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+constexpr int kBytesPerFrame = 4; // 16-bit stereo
+constexpr double kFullScale = 32768.0;
+
+struct Level {
+    double peak = 0;
+    double rms = 0;
+};
+
+Level levelOf(const std::vector<int16_t>& samples) {
+    Level level;
+    double sum = 0;
+    for (int16_t s : samples) {
+        level.peak = std::max(level.peak, std::abs(s / kFullScale));
+        sum += (s / kFullScale) * (s / kFullScale);
+    }
+    if (!samples.empty())
+        level.rms = std::sqrt(sum / double(samples.size()));
+    return level;
+}
+
+std::vector<int16_t> samplesOf(const std::filesystem::path& file, size_t fromByte = 0) {
+    std::ifstream in(file, std::ios::binary);
+    const std::vector<char> bytes{std::istreambuf_iterator<char>(in),
+                                  std::istreambuf_iterator<char>()};
+    std::vector<int16_t> samples;
+    for (size_t i = fromByte; i + 1 < bytes.size(); i += 2)
+        samples.push_back(int16_t(uint8_t(bytes[i]) | (uint8_t(bytes[i + 1]) << 8)));
+    return samples;
+}
+
+Level levelOfWav(const std::filesystem::path& file) {
+    SDL_AudioSpec spec;
+    Uint8* buffer = nullptr;
+    Uint32 length = 0;
+    if (SDL_LoadWAV(file.c_str(), &spec, &buffer, &length) == nullptr)
+        return {};
+    std::vector<int16_t> samples(length / 2);
+    std::memcpy(samples.data(), buffer, samples.size() * 2);
+    SDL_FreeWAV(buffer);
+    return levelOf(samples);
+}
+
+class Rendering : public ::testing::Test {
+  protected:
+    std::filesystem::path output;
+    std::optional<ScopedEnv> driver, file, delay;
+
+    void SetUp() override {
+        output = std::filesystem::temp_directory_path() /
+                 ("morvane-mix-" + std::to_string(getpid()) + ".raw");
+        driver.emplace("SDL_AUDIODRIVER", "disk");
+        file.emplace("SDL_DISKAUDIOFILE", output.string());
+        delay.emplace("SDL_DISKAUDIODELAY", "0"); // as fast as the mixer can go
+    }
+    void TearDown() override { std::filesystem::remove(output); }
+
+    void expectSixteenBitStereo() {
+        int rate = 0, channels = 0;
+        Uint16 format = 0;
+        ASSERT_TRUE(Mix_QuerySpec(&rate, &format, &channels));
+        EXPECT_EQ(format, AUDIO_S16SYS);
+        EXPECT_EQ(channels, 2);
+    }
+    size_t bytesWritten() const {
+        std::error_code ignored;
+        const auto size = std::filesystem::file_size(output, ignored);
+        return ignored ? 0 : size_t(size);
+    }
+};
+
+TEST_F(Rendering, AHardClickComesOutAtTheLevelOfItsFile) {
+    std::ostringstream warnings;
+    {
+        SdlSound sound(runtimeFolder(), warnings);
+        ASSERT_TRUE(sound.hasDevice()) << warnings.str();
+        expectSixteenBitStereo();
+        sound.playEffect(kSoundHardClick, kSoundCutOff);
+        ASSERT_TRUE(waitForMixer([&] { return sound.effectPlaying().empty(); }));
+    }
+    const Level written = levelOfWav(runtimeFolder() / kSoundHardClick);
+    const Level heard = levelOf(samplesOf(output));
+    ASSERT_GT(written.peak, 0.1);
+    EXPECT_NEAR(heard.peak, written.peak, 0.02 * written.peak);
+    EXPECT_GT(heard.rms, 0.0);
+    EXPECT_EQ(warnings.str(), "");
+}
+
+TEST_F(Rendering, TheMenuTuneSoundsThroughTheGeneralMidiSoundfont) {
+    constexpr size_t kSecondsToHear = 3;
+    const size_t bytesToHear = kSecondsToHear * 44100 * kBytesPerFrame;
+    std::ostringstream warnings;
+    size_t startedAt = 0;
+    {
+        SdlSound sound(runtimeFolder(), warnings);
+        ASSERT_TRUE(sound.hasDevice()) << warnings.str();
+        expectSixteenBitStereo();
+        sound.sendMusic("open menu.mid");
+        startedAt = bytesWritten();
+        sound.sendMusic("play menu.mid");
+        ASSERT_TRUE(waitForMixer([&] { return bytesWritten() >= startedAt + bytesToHear; }));
+        EXPECT_EQ(sound.musicPlaying(), "menu.mid");
+    }
+    const Level heard = levelOf(samplesOf(output, startedAt));
+    EXPECT_GT(heard.peak, 0.05);
+    EXPECT_GT(heard.rms, 0.005);
+    EXPECT_EQ(warnings.str(), "");
+}
+
+} // namespace

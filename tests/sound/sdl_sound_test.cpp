@@ -1,0 +1,136 @@
+// The sound layer on SDL2_mixer with the dummy driver: the two ways an effect meets the one
+// sounding, the tunes opened, played and closed by name, and silence without files or device.
+#include "rules/music.h"
+#include "sound/sdl_sound.h"
+#include "sound_setup.h"
+#include "table/sounds.h"
+#include "table/timers.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+int lineCount(const std::string& text) {
+    return int(std::count(text.begin(), text.end(), '\n'));
+}
+
+class Sound : public ::testing::Test {
+  protected:
+    ScopedEnv driver{"SDL_AUDIODRIVER", "dummy"}; // the channel plays in time, into nothing
+    std::ostringstream warnings;
+    SdlSound sound{runtimeFolder(), warnings};
+
+    void SetUp() override { ASSERT_TRUE(sound.hasDevice()) << warnings.str(); }
+};
+
+TEST_F(Sound, ACutOffEffectReplacesTheOneSoundingAndANoStopOneGivesWay) {
+    sound.playEffect(kSoundSoftClick, kSoundNoStop);
+    EXPECT_EQ(sound.effectPlaying(), kSoundSoftClick) << "a quiet channel takes a no-stop effect";
+
+    sound.playEffect(kSoundDrop, kSoundCutOff); // 0.8 s long
+    EXPECT_EQ(sound.effectPlaying(), kSoundDrop);
+    sound.playEffect(kSoundHardClick, kSoundNoStop);
+    EXPECT_EQ(sound.effectPlaying(), kSoundDrop) << "the drop goes on";
+    sound.playEffect(kSoundCushion, kSoundCutOff);
+    EXPECT_EQ(sound.effectPlaying(), kSoundCushion);
+
+    EXPECT_TRUE(waitForMixer([&] { return sound.effectPlaying().empty(); }))
+        << "the effect ends by itself";
+    EXPECT_EQ(warnings.str(), "");
+}
+
+TEST_F(Sound, TunesAreOpenedPlayedAndClosedByName) {
+    sound.sendMusic("play menu.mid");
+    EXPECT_EQ(sound.musicPlaying(), "") << "a tune not open doesn't play";
+
+    sound.sendMusic("open menu.mid");
+    EXPECT_TRUE(sound.isMusicOpen("menu.mid"));
+    EXPECT_EQ(sound.musicPlaying(), "") << "opening doesn't play";
+    sound.sendMusic("play menu.mid");
+    EXPECT_EQ(sound.musicPlaying(), "menu.mid");
+
+    sound.sendMusic("open record.mid");
+    sound.sendMusic("close record.mid");
+    sound.sendMusic("close game3.mid"); // never opened
+    sound.sendMusic("stop menu.mid");   // no such command
+    sound.sendMusic("close");
+    EXPECT_EQ(sound.musicPlaying(), "menu.mid") << "closing another track leaves this one";
+    EXPECT_FALSE(sound.isMusicOpen("record.mid"));
+
+    sound.sendMusic("close menu.mid");
+    EXPECT_EQ(sound.musicPlaying(), "");
+    EXPECT_FALSE(sound.isMusicOpen("menu.mid"));
+    EXPECT_EQ(warnings.str(), "");
+}
+
+TEST_F(Sound, EffectsOffLeavesTheMusicTimerPlaying) {
+    GameState g;
+    g.ports.sound = &sound;
+    setTimerInterval(g, kTimBGM, 500);
+    initBgmTable(g);
+    g.soundOn = 0;
+    g.shotCount = 2;
+    playContactSound(g, 4000);
+    playPocketSound(g, 5600);
+    timBGM_Timer(g);
+    EXPECT_EQ(sound.effectPlaying(), "");
+    EXPECT_EQ(sound.musicPlaying(), "menu.mid");
+    closeAllTracks(g);
+    EXPECT_EQ(sound.musicPlaying(), "");
+}
+
+TEST(SoundWithoutFiles, StaysSilentAndSaysSoOnceAFile) {
+    const std::filesystem::path empty =
+        std::filesystem::temp_directory_path() / ("morvane-no-sounds-" + std::to_string(getpid()));
+    std::filesystem::create_directories(empty);
+    ScopedEnv driver("SDL_AUDIODRIVER", "dummy");
+    std::ostringstream warnings;
+    {
+        SdlSound sound(empty, warnings);
+        ASSERT_TRUE(sound.hasDevice());
+        for (int n = 0; n < 3; ++n) {
+            sound.playEffect(kSoundSoftClick, kSoundCutOff);
+            sound.sendMusic("open menu.mid");
+            sound.sendMusic("play menu.mid");
+            sound.sendMusic("close menu.mid");
+        }
+        EXPECT_EQ(sound.effectPlaying(), "");
+        EXPECT_EQ(sound.musicPlaying(), "");
+    }
+    std::filesystem::remove_all(empty);
+    EXPECT_EQ(lineCount(warnings.str()), 2) << warnings.str();
+    EXPECT_NE(warnings.str().find("vmin.wav"), std::string::npos);
+    EXPECT_NE(warnings.str().find("menu.mid"), std::string::npos);
+}
+
+TEST(SoundWithoutDevice, StaysSilentAndSaysSoOnce) {
+    ScopedEnv driver("SDL_AUDIODRIVER", "no-such-driver");
+    std::ostringstream warnings;
+    SdlSound sound(runtimeFolder(), warnings);
+    EXPECT_FALSE(sound.hasDevice());
+    sound.playEffect(kSoundDrop, kSoundCutOff);
+    sound.sendMusic("open menu.mid");
+    sound.sendMusic("play menu.mid");
+    EXPECT_EQ(sound.effectPlaying(), "");
+    EXPECT_EQ(sound.musicPlaying(), "");
+    EXPECT_EQ(lineCount(warnings.str()), 1) << warnings.str();
+}
+
+TEST(SoundFont, TheEnvironmentWinsAndElseAnInstalledGeneralMidiFontIsFound) {
+    {
+        ScopedEnv fonts("SDL_SOUNDFONTS", "/somewhere/own.sf2");
+        EXPECT_EQ(findSoundFont(), "/somewhere/own.sf2");
+    }
+    ScopedEnv none("SDL_SOUNDFONTS", "");
+    const std::string found = findSoundFont();
+    EXPECT_FALSE(found.empty()) << "timgm6mb-soundfont is installed with the game";
+    EXPECT_TRUE(std::filesystem::exists(found)) << found;
+}
+
+} // namespace
