@@ -6,7 +6,9 @@
 #include "screen/timer_driver.h"
 #include "startup/command_line.h"
 #include "startup/form_load.h"
+#include "sound/sdl_sound.h"
 #include "startup/local_clock.h"
+#include "startup/program_files.h"
 #include "startup/single_instance.h"
 
 #include <QApplication>
@@ -39,6 +41,10 @@ int main(int argc, char* argv[]) {
     g->ports.random = &random;
     LocalClock clock;
     g->ports.clock = &clock;
+
+    // The sounds and tunes lie together: wherever the first effect is found.
+    SdlSound sound(findDataFile("vmin.wav", gameDataFolders()).parent_path());
+    g->ports.sound = &sound;
 
     QtScreen screen(*g, tablePicture(), cueBallPicture(), okPicture());
     g->ports.screen = &screen;

@@ -88,6 +88,7 @@ bool Form_Load(GameState& g, const std::string& commandLine, StartupPlatform& pl
     pass(g, platform, 9);
     loadVsCpuRecord(g);
     backToMenu(g);
+    initBgmTable(g);
     pass(g, platform, 10);
     return true;
 }

@@ -154,7 +154,9 @@ TEST_F(FormLoadTest, TheWayOutClosesEveryTrackBeforeTheEnd) {
     Form_Unload(g, platform);
     ASSERT_EQ(6u, platform.calls.size());
     for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(0u, platform.calls[i].rfind("music close ", 0)) << platform.calls[i];
+        EXPECT_TRUE(platform.calls[i].starts_with("music close ") &&
+                    platform.calls[i].ends_with(".mid"))
+            << platform.calls[i];
     EXPECT_EQ("quit", platform.calls.back());
 }
 
