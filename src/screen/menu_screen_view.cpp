@@ -10,7 +10,9 @@ namespace morvane {
 
 namespace {
 
-constexpr QRect kMenuArea{0, 0, 540, 365};
+// The box is larger than its 540 by 365 picture and black below it, so the menu covers the whole
+// window.
+constexpr QRect kMenuArea{0, 0, 540, 400};
 constexpr std::array<QRect, kMenuPictureCount> kPictureAreas{
     QRect{16, 56, 163, 41}, QRect{216, 56, 135, 41}, QRect{376, 56, 143, 41},
     QRect{408, 112, 126, 39}, QRect{456, 328, 70, 39}};

@@ -79,7 +79,7 @@ class ShellTest : public ScreenTest {
 TEST_F(ShellTest, StartUpEndsOnTheMenuScreenWithTheSwitchesAsStored) {
     EXPECT_EQ(kModeMenu, g.gameMode);
     EXPECT_TRUE(shown(&menu()));
-    EXPECT_EQ(QRect(0, 0, 540, 365), menu().geometry());
+    EXPECT_TRUE(menu().geometry().contains(window->rect())) << "the menu covers the window";
     EXPECT_FALSE(shown(window->picScore()));
     EXPECT_EQ((std::array<bool, 3>{false, false, false}), labelsShown());
     EXPECT_TRUE(shown(menu().switchPicture(kSwitchSound, 0)));
