@@ -1,32 +1,25 @@
-// The game: the window, the timers, and a solo game ready for the break.
-#include "cpu/pocket_table.h"
-#include "rules/modes.h"
+// The game: the window, the timers, start-up in its fixed order, and the way out.
 #include "screen/main_window.h"
 #include "screen/pictures.h"
 #include "screen/qt_screen.h"
+#include "screen/qt_startup.h"
 #include "screen/timer_driver.h"
-#include "startup/scheduler.h"
-#include "table/rack.h"
+#include "sound/sdl_sound.h"
+#include "startup/command_line.h"
+#include "startup/form_load.h"
+#include "startup/local_clock.h"
+#include "startup/program_files.h"
+#include "startup/single_instance.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
-#include <QScreen>
 #include <chrono>
 #include <memory>
 
 using namespace morvane;
 
 namespace {
-
-constexpr const char* kVersion = "3.02";
-
-void centreOnScreen(QWidget& window) {
-    const QRect screen = window.screen()->availableGeometry();
-    const QRect frame = window.frameGeometry();
-    window.move(screen.left() + (screen.width() - frame.width()) / 2,
-                screen.top() + (screen.height() - frame.height()) / 2);
-}
 
 uint64_t clockSeed() {
     return uint64_t(std::chrono::steady_clock::now().time_since_epoch().count());
@@ -35,30 +28,38 @@ uint64_t clockSeed() {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    // On a HiDPI screen the 540 by 378 window grows by a whole factor, its pictures pixel for
+    // pixel, rather than by a fraction that would blur them.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Round);
     QApplication app(argc, argv);
+    QApplication::setApplicationName("morvane");
+    QGuiApplication::setDesktopFileName("morvane");
+
     auto g = std::make_unique<GameState>();
     SeededRandom random(clockSeed());
     g->ports.random = &random;
+    LocalClock clock;
+    g->ports.clock = &clock;
+
+    // The sounds and tunes lie together: wherever the first effect is found.
+    SdlSound sound(findDataFile("vmin.wav", gameDataFolders()).parent_path());
+    g->ports.sound = &sound;
 
     QtScreen screen(*g, tablePicture(), cueBallPicture(), okPicture());
     g->ports.screen = &screen;
-    initTimers(*g);
-    initPocketTable(*g);
-    g->controls.windowCaption = std::string("MORVANE Ver.") + kVersion;
-
     MainWindow window(*g, screen);
     window.setWindowIcon(QIcon(QPixmap::fromImage(windowIcon())));
+
+    SingleInstanceLock lock;
+    QtStartupPlatform platform(*g, window, screen, lock);
+    if (!Form_Load(*g, joinArguments(argc, argv), platform))
+        return 0;
+    QObject::connect(&window, &MainWindow::exitRequested, &app, [&] { Form_Unload(*g, platform); });
+
     TimerDriver driver(
         *g, [&window] { window.syncControlsFromState(); },
         [&screen] { return screen.modalFormsShown(); });
-
-    g->breakPending = true;
-    rackBalls(*g);
-    picSoloPlay_Click(*g, 0);
-    window.syncControlsFromState();
-
-    window.show();
-    centreOnScreen(window);
     driver.start();
     return app.exec();
 }

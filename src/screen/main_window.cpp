@@ -2,24 +2,27 @@
 
 #include "rules/aiming_input.h"
 #include "rules/demo.h"
+#include "rules/menu_screen.h"
 #include "rules/modes.h"
 #include "rules/new_game.h"
+#include "rules/undo.h"
 #include "screen/fonts.h"
 #include "screen/information_bar.h"
 #include "screen/menu_hover.h"
+#include "startup/settings.h"
 #include "table/launch.h"
 #include "table/shot_input.h"
 #include "table/timers.h"
 #include "table/view_coords.h"
 
+#include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
 namespace morvane {
 
 namespace {
-
-enum MenuLabel { kLabelMenu = 0, kLabelStart = 1, kLabelBack = 2 };
 
 // Pixels of the layout.
 constexpr QRect kInfomationArea{0, 0, 321, 25};
@@ -49,16 +52,6 @@ QString qtext(const std::string& text) {
 QString labelColour(bool hover) {
     return QString("color: %1; background: transparent;")
         .arg(QColor(hover ? kLabelHover : kLabelRest).name());
-}
-
-// Until the menu screen is there, "Menu" racks a fresh solo game instead of going to it.
-void lblMenuWithoutMenuScreen(GameState& g, int index) {
-    if (index != kLabelMenu) {
-        lblMenu_Click(g, index);
-    } else if (!isTimerEnabled(g, kTimer1)) {
-        picSoloPlay_Click(g, 0);
-        g.ports.screen->drawTable();
-    }
 }
 
 } // namespace
@@ -100,7 +93,13 @@ void MainWindow::createControls(QtScreen& screen) {
         lblMenu_[i]->setToolTip(QString::fromUtf8(tips[i]));
         lblMenu_[i]->setFont(gameFont("Arial", kMenuLabelPoints, true));
     }
-    mnuStartShortcut_ = new QShortcut(QKeySequence(Qt::Key_F2), this);
+    // The right button plays on the table and on the ball picture: no pop-up menu there.
+    picPool_->setContextMenuPolicy(Qt::PreventContextMenu);
+    picSetPoint_->setContextMenuPolicy(Qt::PreventContextMenu);
+    picMenu_ = new MenuScreen(this);
+    picScore_ = new ScoreScreen(g_, s.picTable, this);
+    picScore_->raise();
+    menu_ = new HiddenMenu(this);
 }
 
 // The layout in pixels, whatever the display: the client area is 540 by 378.
@@ -119,6 +118,7 @@ void MainWindow::arrangeControls() {
     picInfomation_->setGeometry(kInfomationArea);
     for (int i = 0; i < 3; ++i)
         lblMenu_[i]->setGeometry(kMenuLabelAreas[i]);
+    picScore_->setGeometry(0, 0, kClientWidth, kClientHeight);
     setFixedSize(kClientWidth, kClientHeight);
 }
 
@@ -149,10 +149,100 @@ void MainWindow::connectHandlers() {
         connect(lblMenu_[i], &HoverLabel::mouseMoved, this,
                 [this, i] { handle([&](GameState& g) { lblMenu_MouseMove(g, i); }); });
         connect(lblMenu_[i], &HoverLabel::clicked, this,
-                [this, i] { handle([&](GameState& g) { lblMenuWithoutMenuScreen(g, i); }); });
+                [this, i] { handle([&](GameState& g) { lblMenu_Click(g, i); }); });
     }
-    connect(mnuStartShortcut_, &QShortcut::activated, this,
-            [this] { handle([](GameState& g) { mnuStart_click(g); }); });
+    connectMenuScreen();
+    connectScoreScreen();
+    connectHiddenMenu();
+}
+
+void MainWindow::connectMenuScreen() {
+    connect(picMenu_, &MenuScreen::mouseMoved, this,
+            [this] { handle([](GameState& g) { picMenu_MouseMove(g); }); });
+    connect(picMenu_, &MenuScreen::doubleClicked, this,
+            [this] { handle([](GameState& g) { picMenu_DblClick(g); }); });
+    connect(picMenu_, &MenuScreen::pictureMouseMoved, this, [this](MenuPicture which, int index) {
+        handle([&](GameState& g) { menuPicture_MouseMove(g, which, index); });
+    });
+    connect(picMenu_, &MenuScreen::pictureClicked, this, &MainWindow::menuPictureClicked);
+    connect(picMenu_, &MenuScreen::switchClicked, this, [this](MenuSwitch which, int index) {
+        handle([&](GameState& g) {
+            if (which == kSwitchBgm)
+                picBGM_Click(g, int16_t(index));
+            else if (which == kSwitchSound)
+                picSound_Click(g, int16_t(index));
+            else
+                picColor_Click(g, int16_t(index));
+        });
+    });
+    connect(picMenu_->lblHelp(), &HoverLabel::mouseMoved, this,
+            [this] { handle([](GameState& g) { lblHelp_MouseMove(g); }); });
+    for (HoverLabel* label :
+         {picMenu_->lblHelp(), picMenu_->lblCopyright(0), picMenu_->lblCopyright(1)})
+        connect(label, &HoverLabel::clicked, this,
+                [this] { handle([](GameState& g) { lblHelp_Click(g); }); });
+}
+
+void MainWindow::menuPictureClicked(MenuPicture which, int index) {
+    switch (which) {
+    case kPicSoloPlay:
+        handle([&](GameState& g) { picSoloPlay_Click(g, index); });
+        break;
+    case kPicVsCpu:
+        handle([&](GameState& g) { picVSCPU_Click(g, index); });
+        break;
+    case kPicVsPlay:
+        handle([&](GameState& g) { picVSPlay_Click(g, index); });
+        break;
+    case kPicRecord:
+        handle([&](GameState& g) { picRecord_Click(g, index); });
+        break;
+    case kPicExit:
+    case kMenuPictureCount:
+        emit exitRequested();
+        break;
+    }
+}
+
+void MainWindow::connectScoreScreen() {
+    connect(picScore_, &ScoreScreen::clicked, this,
+            [this] { handle([](GameState& g) { picScore_Click(g); }); });
+    connect(picScore_, &ScoreScreen::exitClicked, this,
+            [this] { handle([](GameState& g) { lblExitScore_Click(g); }); });
+}
+
+void MainWindow::connectHiddenMenu() {
+    const auto on = [this](QAction* action, void (*handler)(GameState&)) {
+        connect(action, &QAction::triggered, this, [this, handler] { handle(handler); });
+    };
+    on(menu_->mnuStart, mnuStart_click);
+    on(menu_->mnuRetry, mnuRetry_Click);
+    on(menu_->mnuRecord, [](GameState& g) { picRecord_Click(g, 0); });
+    on(menu_->mnuVS, mnuVS_Click);
+    on(menu_->mnuChangeMode, mnuChangeMode_Click);
+    on(menu_->mnuCurrentCondition, mnuCurrentCondition_Click);
+    on(menu_->mnuSound, mnuSound_Click);
+    on(menu_->mnuHelpCont, lblHelp_Click);
+    on(menu_->mnuKey, lblHelp_Click);
+    on(menu_->mnuAbout, [](GameState& g) { g.ports.screen->showVersion(); });
+    connect(menu_->mnuExit, &QAction::triggered, this, &MainWindow::exitRequested);
+}
+
+void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
+    menu_->popup()->exec(event->globalPos());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    emit exitRequested();
+}
+
+void MainWindow::showEvent(QShowEvent*) {
+    g_.controls.mainWindowVisible = true;
+}
+
+void MainWindow::hideEvent(QHideEvent*) {
+    g_.controls.mainWindowVisible = false;
 }
 
 void MainWindow::mouseMoveEvent(QMouseEvent*) {
@@ -176,7 +266,9 @@ void MainWindow::syncControlsFromState() {
     cmdShot_->setText(qtext(c.shotCaption));
     cmdShot_->setFont(gameFont(qtext(c.shotFont.name), c.shotFont.size, c.shotFont.bold));
     cmdShot_->setEnabled(c.shotEnabled);
-    mnuStartShortcut_->setEnabled(c.mnuStartEnabled);
+    menu_->syncFromState(c);
+    picMenu_->syncFromState(g_);
+    picScore_->syncFromState();
     picPool_->syncFromState();
     picSetPoint_->syncFromState();
     syncing_ = false;

@@ -1,18 +1,21 @@
 // MFMORVANE, the one window: 540 by 378 pixels of client area on black. The table view with the
 // strip of shot controls under it, the information bar and the labels "Back", "Start" and "Menu"
-// above it. Every control paints from the game state and hands its events to the handlers; after
-// each handler the controls are brought into line with the state in one place.
+// above it; over the game the record screen, and over everything the menu screen. Every control
+// paints from the game state and hands its events to the handlers; after each handler the controls
+// are brought into line with the state in one place.
 #pragma once
 
+#include "screen/hidden_menu.h"
+#include "screen/menu_screen_view.h"
 #include "screen/picture_controls.h"
 #include "screen/pool_view.h"
 #include "screen/qt_screen.h"
+#include "screen/score_view.h"
 #include "table/game_state.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QWidget>
 #include <array>
 
@@ -38,14 +41,29 @@ class MainWindow : public QWidget {
     SurfaceView* picPocketedBalls() const { return picPocketedBalls_; }
     SurfaceView* picInfomation() const { return picInfomation_; }
     HoverLabel* lblMenu(int index) const { return lblMenu_[index]; }
+    MenuScreen* picMenu() const { return picMenu_; }
+    ScoreScreen* picScore() const { return picScore_; }
+    HiddenMenu* hiddenMenu() const { return menu_; }
+
+  signals:
+    // picExit, mnuExit or the window's close box: the program is to end.
+    void exitRequested();
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
   private:
     void createControls(QtScreen& screen);
     void arrangeControls();
     void connectHandlers();
+    void connectMenuScreen();
+    void connectScoreScreen();
+    void connectHiddenMenu();
+    void menuPictureClicked(MenuPicture which, int index);
     // Runs a handler on the game state, then shows what it changed.
     template <typename Handler> void handle(Handler handler) {
         handler(g_);
@@ -62,7 +80,9 @@ class MainWindow : public QWidget {
     SurfaceView* picPocketedBalls_ = nullptr;
     SurfaceView* picInfomation_ = nullptr;
     std::array<HoverLabel*, 3> lblMenu_{};
-    QShortcut* mnuStartShortcut_ = nullptr;
+    MenuScreen* picMenu_ = nullptr;
+    ScoreScreen* picScore_ = nullptr;
+    HiddenMenu* menu_ = nullptr;
     std::array<int, 3> shownHover_{-1, -1, -1}; // the colour each label shows: 1 hover
     bool syncing_ = false;
 };

@@ -6,6 +6,7 @@
 #include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
 #include "screen/forms/version_form.h"
+#include "screen/help_page.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
 #include "screen/table_drawing.h"
@@ -116,6 +117,14 @@ void QtScreen::showPlainMessage(const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, QString(), QString::fromStdString(text), QMessageBox::Ok,
                     widgets_.mainWindow);
     runModal(box, nullptr);
+}
+
+} // namespace morvane
+
+namespace morvane {
+
+void QtScreen::openHelp() {
+    openHelpPage();
 }
 
 } // namespace morvane

@@ -48,6 +48,7 @@ class QtScreen : public ScreenPort {
     void showChangeVsMode() override;
     void showVsResult() override;
     void showVersion() override;
+    void openHelp() override;
 
   private:
     // The view has changed: at rest it shows at the next paint, during a shot at once.

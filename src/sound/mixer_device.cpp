@@ -44,6 +44,9 @@ std::string findSoundFont() {
 }
 
 MixerDevice::MixerDevice(WarnOnce& warnings, int bufferSamples) {
+    // SDL would otherwise take SIGINT and SIGTERM for events that nobody reads, and the game
+    // could no longer be ended by the session or by Ctrl+C.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
         warnings.warn("device", std::string("no sound: ") + SDL_GetError());
         return;

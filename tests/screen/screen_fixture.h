@@ -73,9 +73,7 @@ class ScreenTest : public ::testing::Test {
 
     void SetUp() override {
         application();
-        screen =
-            std::make_unique<QtScreen>(g, plainSheet(), plainPicture(45, 45, qRgb(200, 200, 200)),
-                                       plainPicture(66, 34, qRgb(0, 0, 255)));
+        screen = makeScreen();
         g.ports.screen = screen.get();
         // A message box the test does not look at is closed as soon as it runs.
         screen->onMessageBox = [](QDialog& form) {
@@ -87,6 +85,13 @@ class ScreenTest : public ::testing::Test {
         for (BallType& b : g.Balls)
             b = BallType{};
         window = std::make_unique<MainWindow>(g, *screen);
+    }
+
+    // The screen of the window; a test may give one that writes down more.
+    virtual std::unique_ptr<QtScreen> makeScreen() {
+        return std::make_unique<QtScreen>(g, plainSheet(),
+                                          plainPicture(45, 45, qRgb(200, 200, 200)),
+                                          plainPicture(66, 34, qRgb(0, 0, 255)));
     }
 
     // Places ball i with its centre at a pixel of the view.

@@ -1,0 +1,107 @@
+#include "screen/qt_startup.h"
+
+#include "picture_names.h"
+#include "screen/fonts.h"
+#include "startup/menu_captions.h"
+#include "startup/program_files.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+
+namespace morvane {
+
+namespace {
+
+constexpr const char* kSheetFile = "mv256.bmp";
+constexpr const char* kMenuFile = "mvmnu256.bmp";
+constexpr double kZephsMessagePoints = 14.25;
+
+// A picture file looked for in the current directory, then beside the program; the inner
+// picture stands in for one that can't be read.
+QImage pictureFile(const char* name, const QImage& fallback) {
+    const QImage file(QString::fromStdString(findInCurrentDirectory(name, gameDataFolders())));
+    return file.isNull() ? fallback : file.convertToFormat(fallback.format());
+}
+
+} // namespace
+
+bool isJapaneseSystem() {
+    return QLocale::system().language() == QLocale::Japanese;
+}
+
+QtStartupPlatform::QtStartupPlatform(GameState& g, MainWindow& window, QtScreen& screen,
+                                     SingleInstanceLock& lock)
+    : g_(g), window_(window), screen_(screen), lock_(lock) {}
+
+bool QtStartupPlatform::isJapaneseSystem() {
+    return morvane::isJapaneseSystem();
+}
+
+bool QtStartupPlatform::anotherInstanceRunning() {
+    return lock_.anotherInstanceRunning();
+}
+
+void QtStartupPlatform::showPlainMessage(const std::string& text) {
+    screen_.showPlainMessage(text);
+}
+
+void QtStartupPlatform::loadFilePictures() {
+    Surfaces& s = screen_.surfaces();
+    s.picTable = pictureFile(kSheetFile, s.picTable);
+    QPainter(&s.setPoint)
+        .drawImage(QPoint(0, 0), s.picTable,
+                   QRect(kSheetCueBallX, kSheetCueBallY, kSetPointPixels, kSetPointPixels));
+    MenuScreen& menu = *window_.picMenu();
+    menu.setPicture(pictureFile(kMenuFile, QImage(pictures::kMenu)));
+}
+
+void QtStartupPlatform::setMenuCaptions() {
+    window_.hiddenMenu()->setMenuCaptions(menuCaptions(g_.isJapanese));
+}
+
+void QtStartupPlatform::arrangeControls() {
+    window_.setFixedSize(kClientWidth, kClientHeight);
+}
+
+void QtStartupPlatform::centreMainWindow() {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    window_.move(screen.left() + (screen.width() - window_.width()) / 2,
+                 screen.top() + (screen.height() - window_.height()) / 2);
+}
+
+void QtStartupPlatform::hideMainWindow() {
+    window_.hide();
+}
+
+// The splash comes up once start-up has returned, as it would over a window still hidden.
+void QtStartupPlatform::showSplash() {
+    QTimer::singleShot(0, &window_, [this] {
+        if (splash)
+            splash([this] { showMainWindow(); });
+        else
+            showMainWindow();
+    });
+}
+
+void QtStartupPlatform::showMainWindow() {
+    window_.syncControlsFromState();
+    window_.show();
+}
+
+void QtStartupPlatform::loadBallSprites() {
+    morvane::loadBallSprites(screen_.surfaces());
+}
+
+void QtStartupPlatform::setZephsMessageFont() {
+    window_.picPool()->zephsMessage()->setFont(gameFont(
+        g_.isJapanese ? QStringLiteral("ＭＳ ゴシック") : "Arial", kZephsMessagePoints, true));
+}
+
+void QtStartupPlatform::quit() {
+    QApplication::quit();
+}
+
+} // namespace morvane

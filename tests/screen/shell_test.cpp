@@ -1,0 +1,230 @@
+// The program as a whole in the window: start-up to the menu, the menu screen's pictures and
+// switches, the moves between the modes through the widgets, the demo on its timer, and the
+// record screen after a game that earned a place.
+#include "screen_fixture.h"
+
+#include "records/score_text.h"
+#include "rules/game_over.h"
+#include "rules/scenes.h"
+#include "screen/qt_startup.h"
+#include "startup/form_load.h"
+#include "support/temp_home.h"
+#include "table/timers.h"
+
+#include <QTest>
+#include <optional>
+
+namespace morvane::testing {
+namespace {
+
+class HelpCountingScreen : public QtScreen {
+  public:
+    using QtScreen::QtScreen;
+    int helpOpened = 0;
+    void openHelp() override { ++helpOpened; }
+};
+
+class ShellTest : public ScreenTest {
+  protected:
+    std::optional<TempHome> home;
+    std::unique_ptr<SingleInstanceLock> lock;
+    std::unique_ptr<QtStartupPlatform> platform;
+    HelpCountingScreen* helpScreen = nullptr;
+
+    std::unique_ptr<QtScreen> makeScreen() override {
+        auto made = std::make_unique<HelpCountingScreen>(g, plainSheet(),
+                                                         plainPicture(45, 45, qRgb(200, 200, 200)),
+                                                         plainPicture(66, 34, qRgb(0, 0, 255)));
+        helpScreen = made.get();
+        return made;
+    }
+
+    void SetUp() override {
+        home.emplace();
+        ScreenTest::SetUp();
+        lock = std::make_unique<SingleInstanceLock>(home->path("test.lock"));
+        platform = std::make_unique<QtStartupPlatform>(g, *window, *screen, *lock);
+        ASSERT_TRUE(Form_Load(g, "", *platform));
+        EXPECT_FALSE(window->isVisible()) << "hidden until the splash is over";
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(window->isVisible());
+    }
+
+    void TearDown() override {
+        window.reset();
+        home.reset();
+    }
+
+    void moveOver(QWidget* w, QPoint at = {3, 3}) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(at), w->mapToGlobal(QPointF(at)), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(w, &move);
+    }
+
+    void click(QWidget* w, QPoint at = {3, 3}) { QTest::mouseClick(w, Qt::LeftButton, {}, at); }
+
+    // Virtual time, then the controls brought into line as the timer driver does.
+    void advanceSeconds(int seconds) {
+        advanceVirtualTime(g, g.nowMs + 1000 * int64_t(seconds));
+        window->syncControlsFromState();
+    }
+
+    MenuScreen& menu() { return *window->picMenu(); }
+    bool shown(QWidget* w) { return w->isVisibleTo(window.get()); }
+    std::array<bool, 3> labelsShown() {
+        return {shown(window->lblMenu(0)), shown(window->lblMenu(1)), shown(window->lblMenu(2))};
+    }
+};
+
+TEST_F(ShellTest, StartUpEndsOnTheMenuScreenWithTheSwitchesAsStored) {
+    EXPECT_EQ(kModeMenu, g.gameMode);
+    EXPECT_TRUE(shown(&menu()));
+    EXPECT_TRUE(menu().geometry().contains(window->rect())) << "the menu covers the window";
+    EXPECT_FALSE(shown(window->picScore()));
+    EXPECT_EQ((std::array<bool, 3>{false, false, false}), labelsShown());
+    EXPECT_TRUE(shown(menu().switchPicture(kSwitchSound, 0)));
+    EXPECT_FALSE(shown(menu().switchPicture(kSwitchSound, 1)));
+    EXPECT_EQ(QString("MORVANE Ver.3.02"), window->windowTitle());
+    EXPECT_TRUE(window->hiddenMenu()->mnuSound->isChecked());
+}
+
+TEST_F(ShellTest, TheWordPicturesLightUnderTheMouseUntilItCrossesTheMenu) {
+    HoverPicture* solo0 = menu().picture(kPicSoloPlay, 0);
+    HoverPicture* solo1 = menu().picture(kPicSoloPlay, 1);
+    EXPECT_FALSE(shown(solo1));
+    moveOver(solo0);
+    EXPECT_TRUE(shown(solo1));
+    EXPECT_FALSE(shown(solo0)) << "Solo Play hides its resting picture";
+    EXPECT_EQ(QString("独り撞きモード"), solo1->toolTip());
+    EXPECT_TRUE(solo0->toolTip().isEmpty());
+
+    moveOver(menu().picture(kPicRecord, 0));
+    EXPECT_FALSE(shown(solo1));
+    EXPECT_TRUE(shown(solo0));
+    EXPECT_TRUE(shown(menu().picture(kPicRecord, 1)));
+    EXPECT_TRUE(shown(menu().picture(kPicRecord, 0))) << "Record leaves its own under the lit one";
+    moveOver(menu().picture(kPicRecord, 1));
+    EXPECT_TRUE(g.controls.menuPicLit[kPicRecord]);
+
+    moveOver(menu().lblHelp());
+    EXPECT_TRUE(menu().lblHelp()->styleSheet().contains("#ff00ff"));
+    g.gameMode = kModeRecords;
+    moveOver(&menu(), {200, 300});
+    EXPECT_EQ((std::array<bool, 5>{}), g.controls.menuPicLit);
+    EXPECT_FALSE(shown(menu().picture(kPicRecord, 1)));
+    EXPECT_TRUE(menu().lblHelp()->styleSheet().contains("#800080"));
+    EXPECT_EQ(kModeMenu, g.gameMode);
+}
+
+TEST_F(ShellTest, TheSwitchesTurnOffAndOnAndWriteTheirKeys) {
+    click(menu().switchPicture(kSwitchSound, 0));
+    EXPECT_EQ(0, g.soundOn);
+    EXPECT_TRUE(shown(menu().switchPicture(kSwitchSound, 1)));
+    EXPECT_FALSE(shown(menu().switchPicture(kSwitchSound, 0)));
+    EXPECT_NE(std::string::npos, home->readFile("MORVANE.INI").find("SOUND= 0"));
+    click(menu().switchPicture(kSwitchSound, 1));
+    EXPECT_EQ(1, g.soundOn);
+    click(menu().switchPicture(kSwitchBgm, 0));
+    EXPECT_FALSE(isTimerEnabled(g, kTimBGM));
+    EXPECT_NE(std::string::npos, home->readFile("MORVANE.INI").find("BGM= 0"));
+}
+
+TEST_F(ShellTest, SoloPlayAndMenuAndTheRecordScreenMoveBetweenTheModes) {
+    moveOver(menu().picture(kPicSoloPlay, 0));
+    click(menu().picture(kPicSoloPlay, 1));
+    EXPECT_EQ(kModeSolo, g.gameMode);
+    EXPECT_FALSE(shown(&menu()));
+    EXPECT_EQ((std::array<bool, 3>{true, true, true}), labelsShown());
+    EXPECT_EQ(kSceneSolo, g.bgmScene);
+
+    click(window->lblMenu(0));
+    EXPECT_EQ(kModeMenu, g.gameMode);
+    EXPECT_TRUE(shown(&menu()));
+    EXPECT_EQ(kSceneMenu, g.bgmScene);
+
+    moveOver(menu().picture(kPicRecord, 0));
+    click(menu().picture(kPicRecord, 1));
+    EXPECT_EQ(kModeRecords, g.gameMode);
+    EXPECT_TRUE(shown(window->picScore()));
+    EXPECT_EQ(kSceneRecords, g.bgmScene);
+    click(window->picScore()->lblExitScore());
+    EXPECT_EQ(kModeMenu, g.gameMode);
+    EXPECT_FALSE(shown(window->picScore()));
+
+    click(menu().picture(kPicRecord, 1));
+    click(window->picScore(), {200, 200});
+    EXPECT_FALSE(shown(window->picScore()));
+    EXPECT_EQ(kModeRecords, g.gameMode) << "until the mouse crosses the menu";
+    EXPECT_EQ(kSceneMenu, g.bgmScene);
+}
+
+TEST_F(ShellTest, F2StartsAGameAndF1OpensTheHelpThoughNoMenuShows) {
+    window->activateWindow();
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    EXPECT_EQ(1, helpScreen->helpOpened);
+    click(menu().lblHelp());
+    click(menu().lblCopyright(1));
+    EXPECT_EQ(3, helpScreen->helpOpened);
+    g.breakPending = false;
+    QTest::keyClick(window.get(), Qt::Key_F2);
+    EXPECT_TRUE(g.breakPending) << "mnuStart racked a new game";
+}
+
+TEST_F(ShellTest, TheDemoStartsOnThe31stTickAndAClickOnTheTableEndsItWhileBallsRoll) {
+    advanceSeconds(30);
+    EXPECT_EQ(kModeMenu, g.gameMode);
+    advanceSeconds(1);
+    EXPECT_EQ(kModeDemo, g.gameMode);
+    EXPECT_FALSE(shown(&menu()));
+    EXPECT_EQ((std::array<bool, 3>{false, false, false}), labelsShown());
+    EXPECT_EQ(QString("DEMO"), window->cmdShot()->text());
+
+    ASSERT_TRUE(advanceUntil(g, g.nowMs + 60000, [&] { return isTimerEnabled(g, kTimer1); }))
+        << "zeph breaks";
+    window->syncControlsFromState();
+    click(window->picPool(), {270, 150});
+    EXPECT_EQ(kModeMenu, g.gameMode);
+    EXPECT_FALSE(isTimerEnabled(g, kTimer1));
+    EXPECT_FALSE(isTimerEnabled(g, kTimCom));
+    EXPECT_TRUE(shown(&menu()));
+}
+
+TEST_F(ShellTest, ASoloGameThatEarnsAPlaceOpensTheRecordScreenWithItsRowInMagenta) {
+    moveOver(menu().picture(kPicSoloPlay, 0));
+    click(menu().picture(kPicSoloPlay, 1));
+    g.turnCount = 2;
+    g.shotCount = 12;
+    g.gameSeconds = 95;
+    endGame(g);
+    window->syncControlsFromState();
+    ASSERT_TRUE(shown(window->picScore()));
+    EXPECT_EQ(11, g.soloRecords[1].place);
+
+    const QImage shot = window->picScore()->grab().toImage();
+    const auto hasColour = [&](int top, int bottom, QRgb colour) {
+        for (int y = top; y < bottom; ++y)
+            for (int x = 0; x < 460; ++x)
+                if ((shot.pixel(x, y) | 0xff000000) == colour)
+                    return true;
+        return false;
+    };
+    constexpr QRgb magenta = qRgb(255, 0, 255);
+    constexpr QRgb green = qRgb(0, 255, 0);
+    // The middle of each line: a letter may reach a pixel into the next row.
+    const auto rowHas = [&](int y, QRgb colour) { return hasColour(y + 3, y + 12, colour); };
+    EXPECT_TRUE(rowHas(soloRowY(1), magenta));
+    EXPECT_FALSE(rowHas(soloRowY(1), green));
+    for (int row = 2; row <= 10; ++row) {
+        EXPECT_FALSE(rowHas(soloRowY(row), magenta)) << "solo row " << row;
+        EXPECT_TRUE(rowHas(soloRowY(row), green)) << "solo row " << row;
+        EXPECT_FALSE(rowHas(vsCpuRowY(row), magenta)) << "match row " << row;
+    }
+    EXPECT_TRUE(rowHas(vsCpuTitleY(), green)) << "the lower title after a green row";
+
+    click(window->picScore(), {200, 200});
+    EXPECT_FALSE(shown(window->picScore()));
+    EXPECT_EQ(kModeSolo, g.gameMode) << "the fresh table behind it shows again";
+}
+
+} // namespace
+} // namespace morvane::testing

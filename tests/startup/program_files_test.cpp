@@ -1,0 +1,57 @@
+// Where the game finds the files it brings: beside the program, then the installed data folder,
+// and the current directory first for the pictures looked for there.
+#include "startup/program_files.h"
+#include "support/temp_home.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using namespace morvane;
+namespace fs = std::filesystem;
+
+namespace {
+
+class ProgramFilesTest : public morvane::testing::TempHomeTest {
+  protected:
+    void SetUp() override {
+        TempHomeTest::SetUp();
+        for (const char* folder : {"prefix/bin", "prefix/share/morvane", "elsewhere", "work"})
+            fs::create_directories(path(folder));
+        before_ = fs::current_path();
+    }
+    void TearDown() override {
+        fs::current_path(before_);
+        TempHomeTest::TearDown();
+    }
+    fs::path before_;
+};
+
+TEST_F(ProgramFilesTest, BesideTheProgramComesFirstThenTheDataFolderOfTheInstallation) {
+    const auto folders = dataFolders(path("prefix/bin"), path("elsewhere"));
+    ASSERT_EQ(3u, folders.size());
+    EXPECT_EQ(fs::path(path("prefix/bin")), folders[0]);
+    EXPECT_EQ(fs::path(path("prefix/share/morvane")), folders[1]);
+    EXPECT_EQ(fs::path(path("elsewhere")), folders[2]);
+
+    writeFile("elsewhere/help.html", "x");
+    EXPECT_EQ(fs::path(path("elsewhere/help.html")), findDataFile("help.html", folders));
+    writeFile("prefix/share/morvane/help.html", "x");
+    EXPECT_EQ(fs::path(path("prefix/share/morvane/help.html")), findDataFile("help.html", folders));
+    writeFile("prefix/bin/help.html", "x");
+    EXPECT_EQ(fs::path(path("prefix/bin/help.html")), findDataFile("help.html", folders));
+    EXPECT_EQ(fs::path(path("prefix/bin/none.wav")), findDataFile("none.wav", folders))
+        << "a missing file is named where it was first expected";
+}
+
+TEST_F(ProgramFilesTest, TheCurrentDirectoryIsSearchedFirstOnlyWhenAsked) {
+    const auto folders = dataFolders(path("prefix/bin"), {});
+    writeFile("prefix/bin/mv256.bmp", "beside");
+    writeFile("work/mv256.bmp", "current");
+    fs::current_path(path("work"));
+    EXPECT_EQ(fs::path(path("work/mv256.bmp")),
+              fs::canonical(findInCurrentDirectory("mv256.bmp", folders)));
+    EXPECT_EQ(fs::path(path("prefix/bin/mv256.bmp")), findDataFile("mv256.bmp", folders));
+}
+
+} // namespace
