@@ -1,5 +1,7 @@
 #include "screen/qt_startup.h"
 
+#include "screen/forms/opening_form.h"
+
 #include "picture_names.h"
 #include "screen/fonts.h"
 #include "startup/menu_captions.h"
@@ -76,19 +78,18 @@ void QtStartupPlatform::hideMainWindow() {
     window_.hide();
 }
 
-// The splash comes up once start-up has returned, as it would over a window still hidden.
+// The splash comes up without waiting, over a window still hidden; its closing shows the window.
 void QtStartupPlatform::showSplash() {
-    QTimer::singleShot(0, &window_, [this] {
-        if (splash)
-            splash([this] { showMainWindow(); });
-        else
-            showMainWindow();
-    });
+    auto* splash = new OpeningForm(g_, [this] { showMainWindow(); });
+    splash->setAttribute(Qt::WA_DeleteOnClose);
+    splash->show();
 }
 
 void QtStartupPlatform::showMainWindow() {
     window_.syncControlsFromState();
     window_.show();
+    window_.raise();
+    window_.activateWindow();
 }
 
 void QtStartupPlatform::loadBallSprites() {

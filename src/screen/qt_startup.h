@@ -31,10 +31,6 @@ class QtStartupPlatform : public StartupPlatform {
     void setZephsMessageFont() override;
     void quit() override;
 
-    // Shows the splash and, when it closes, the main window. Until the splash form is there the
-    // main window shows as soon as start-up has returned.
-    std::function<void(std::function<void()> showMain)> splash;
-
   private:
     void showMainWindow();
 

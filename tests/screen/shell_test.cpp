@@ -6,6 +6,7 @@
 #include "records/score_text.h"
 #include "rules/game_over.h"
 #include "rules/scenes.h"
+#include "screen/forms/opening_form.h"
 #include "screen/qt_startup.h"
 #include "startup/form_load.h"
 #include "support/temp_home.h"
@@ -46,8 +47,20 @@ class ShellTest : public ScreenTest {
         platform = std::make_unique<QtStartupPlatform>(g, *window, *screen, *lock);
         ASSERT_TRUE(Form_Load(g, "", *platform));
         EXPECT_FALSE(window->isVisible()) << "hidden until the splash is over";
-        QCoreApplication::processEvents();
+        OpeningForm* splash = shownSplash();
+        ASSERT_NE(splash, nullptr);
+        QTest::mouseClick(splash, Qt::LeftButton); // a click cuts the splash short
         ASSERT_TRUE(window->isVisible());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(shownSplash(), nullptr);
+    }
+
+    static OpeningForm* shownSplash() {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (auto* splash = qobject_cast<OpeningForm*>(w); splash && splash->isVisible())
+                return splash;
+        }
+        return nullptr;
     }
 
     void TearDown() override {
