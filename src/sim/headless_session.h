@@ -1,23 +1,16 @@
 // One run of the game without a window, as every command of the tool starts it: the game state,
-// the headless screen, a seeded random source, a clock that always gives the same day, and the
-// start-up that matters to play (timers, pockets, zeph's level and both record tables from the
+// the headless screen, a seeded random source, the machine's calendar for the records' dates, and
+// the start-up that matters to play (timers, pockets, zeph's level and both record tables from the
 // game's folder), ending on the menu. Time is virtual: the timers fire as fast as they come.
 #pragma once
 
 #include "sim/headless_screen.h"
+#include "startup/local_clock.h"
 #include "table/game_state.h"
 
 #include <cstdint>
 
 namespace morvane::sim {
-
-// The day that the headless clock always gives, for the dates of the records.
-constexpr CalendarDate kHeadlessDate{2024, 4, 1};
-
-class FixedDateClock : public ClockPort {
-  public:
-    CalendarDate today() override { return kHeadlessDate; }
-};
 
 class HeadlessSession {
   public:
@@ -34,7 +27,7 @@ class HeadlessSession {
 
   private:
     SeededRandom random_;
-    FixedDateClock clock_;
+    LocalClock clock_;
 };
 
 } // namespace morvane::sim
