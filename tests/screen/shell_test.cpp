@@ -3,16 +3,23 @@
 // record screen after a game that earned a place.
 #include "screen_fixture.h"
 
+#include "cpu/cpu_think.h"
+#include "cpu/cue_ball_placement.h"
 #include "records/score_text.h"
 #include "rules/game_over.h"
 #include "rules/scenes.h"
+#include "screen/forms/match_form.h"
 #include "screen/forms/opening_form.h"
+#include "screen/forms/result_form.h"
 #include "screen/qt_startup.h"
 #include "startup/form_load.h"
 #include "support/temp_home.h"
+#include "table/table_queries.h"
 #include "table/timers.h"
 
 #include <QTest>
+#include <algorithm>
+#include <cstdio>
 #include <optional>
 
 namespace morvane::testing {
@@ -237,6 +244,67 @@ TEST_F(ShellTest, ASoloGameThatEarnsAPlaceOpensTheRecordScreenWithItsRowInMagent
     click(window->picScore(), {200, 200});
     EXPECT_FALSE(shown(window->picScore()));
     EXPECT_EQ(kModeSolo, g.gameMode) << "the fresh table behind it shows again";
+}
+
+// A whole match against zeph at level 1, the person's shots chosen by zeph's own logic at level 1
+// and fired through the shot button, every form answered through its own controls.
+TEST_F(ShellTest, AMatchAgainstZephPlayedThroughTheWindowEndsAndTheNextMatchBegins) {
+    std::vector<std::pair<int, int>> scores; // games won after each game, as the result form shows
+    screen->onForm = [this, &scores](QDialog& form) {
+        if (auto* setUp = qobject_cast<MatchForm*>(&form)) {
+            QTimer::singleShot(0, setUp,
+                               [setUp] { QTest::mouseClick(setUp->picOK(), Qt::LeftButton); });
+            return;
+        }
+        if (qobject_cast<ResultForm*>(&form))
+            scores.emplace_back(g.players[0].gamesWon, g.players[1].gamesWon);
+        QTimer::singleShot(0, &form, &QDialog::accept);
+    };
+    moveOver(menu().picture(kPicVsCpu, 0));
+    click(menu().picture(kPicVsCpu, 1));
+    ASSERT_EQ(kModeVersus, g.gameMode);
+    ASSERT_EQ(1, g.zephLevel);
+
+    const auto personToShoot = [this] {
+        return !isTimerEnabled(g, kTimer1) && !isTimerEnabled(g, kTimCom) &&
+               g.controls.shotEnabled && getShooterIndex(g, g.turnCount) == 0;
+    };
+    const auto matchDecided = [&scores, this] {
+        return !scores.empty() &&
+               std::max(scores.back().first, scores.back().second) >= g.matchTarget;
+    };
+    int personShots = 0;
+    int allShots = 0; // the person's shots start rolling before the timers run: not counted here
+    const int64_t start = g.nowMs;
+    while (!matchDecided() && g.nowMs - start < 4 * 3600 * 1000) {
+        if (personToShoot()) {
+            if (!g.breakPending) {
+                placeCueBall(g);
+                cpuThink(g);
+            }
+            window->syncControlsFromState();
+            QTest::mouseClick(window->cmdShot(), Qt::LeftButton);
+            ASSERT_TRUE(isTimerEnabled(g, kTimer1)) << "the shot button fired the shot";
+            ++personShots;
+        }
+        const bool rollingBefore = isTimerEnabled(g, kTimer1);
+        runDueTimers(g, nextDueTime(g));
+        window->syncControlsFromState();
+        if (!rollingBefore && isTimerEnabled(g, kTimer1))
+            ++allShots;
+    }
+    ASSERT_TRUE(matchDecided()) << "the match never ended";
+    const bool personWon = scores.back().first >= 3;
+    std::printf("match against zeph at level 1: %d - %d after %zu games, %d shots of the person, "
+                "%d of zeph, %.1f simulated minutes\n",
+                scores.back().first, scores.back().second, scores.size(), personShots, allShots,
+                double(g.nowMs - start) / 60000.0);
+    EXPECT_EQ(personWon ? 1 : 0, g.zephProgress);
+    EXPECT_EQ(kModeVersus, g.gameMode) << "the next match follows at once";
+    EXPECT_EQ(0, g.players[0].gamesWon);
+    EXPECT_EQ(0, g.players[1].gamesWon);
+    EXPECT_TRUE(g.players[0].hasBreak);
+    EXPECT_EQ(QString("Your Shot"), window->cmdShot()->text());
 }
 
 } // namespace
