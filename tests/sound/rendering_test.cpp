@@ -50,10 +50,10 @@ std::vector<int16_t> samplesOf(const std::filesystem::path& file, size_t fromByt
 }
 
 Level levelOfWav(const std::filesystem::path& file) {
-    SDL_AudioSpec spec;
+    SDL_AudioSpec format;
     Uint8* buffer = nullptr;
     Uint32 length = 0;
-    if (SDL_LoadWAV(file.c_str(), &spec, &buffer, &length) == nullptr)
+    if (SDL_LoadWAV(file.c_str(), &format, &buffer, &length) == nullptr)
         return {};
     std::vector<int16_t> samples(length / 2);
     std::memcpy(samples.data(), buffer, samples.size() * 2);
