@@ -1,5 +1,6 @@
 #include "screen/qt_startup.h"
 
+#include "screen/forms/form_parts.h"
 #include "screen/forms/opening_form.h"
 
 #include "picture_names.h"
@@ -10,7 +11,6 @@
 #include <QApplication>
 #include <QLocale>
 #include <QMessageBox>
-#include <QScreen>
 #include <QTimer>
 
 namespace morvane {
@@ -68,10 +68,9 @@ void QtStartupPlatform::arrangeControls() {
     window_.setFixedSize(kClientWidth, kClientHeight);
 }
 
+// Centred on the whole screen, as the splash and the record form are.
 void QtStartupPlatform::centreMainWindow() {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    window_.move(screen.left() + (screen.width() - window_.width()) / 2,
-                 screen.top() + (screen.height() - window_.height()) / 2);
+    centreOnScreen(window_);
 }
 
 void QtStartupPlatform::hideMainWindow() {

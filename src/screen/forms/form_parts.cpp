@@ -60,14 +60,18 @@ QLabel* addLabel(QWidget* form, const QString& text, QRect placeTwips, const QFo
     return label;
 }
 
+namespace {
+
+// The form's top left corner where the form stands in the middle of the area.
+void centreIn(QWidget& form, const QRect& area) {
+    form.move(area.left() + (area.width() - form.width()) / 2,
+              area.top() + (area.height() - form.height()) / 2);
+}
+
+} // namespace
+
 void centreOver(QWidget& form, const QWidget* mainWindow) {
-    if (!mainWindow) {
-        centreOnScreen(form);
-        return;
-    }
-    const QRect main = mainWindow->geometry();
-    form.move(main.left() + (main.width() - form.width()) / 2,
-              main.top() + (main.height() - form.height()) / 2);
+    centreIn(form, mainWindow ? mainWindow->geometry() : screenArea());
 }
 
 QRect screenArea() {
@@ -76,9 +80,7 @@ QRect screenArea() {
 }
 
 void centreOnScreen(QWidget& form) {
-    const QRect whole = screenArea();
-    form.move(whole.left() + (whole.width() - form.width()) / 2,
-              whole.top() + (whole.height() - form.height()) / 2);
+    centreIn(form, screenArea());
 }
 
 } // namespace morvane
