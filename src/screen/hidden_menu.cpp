@@ -4,12 +4,6 @@
 
 namespace morvane {
 
-namespace {
-QString qtext(const std::string& text) {
-    return QString::fromStdString(text);
-}
-} // namespace
-
 HiddenMenu::HiddenMenu(QWidget* window) : QObject(window), popup_(window) {
     mnuGame_ = popup_.addMenu(QString());
     mnuStart = mnuGame_->addAction(QString());
@@ -38,20 +32,20 @@ HiddenMenu::HiddenMenu(QWidget* window) : QObject(window), popup_(window) {
 }
 
 void HiddenMenu::setMenuCaptions(const MenuCaptions& c) {
-    mnuGame_->setTitle(qtext(c.game));
-    mnuStart->setText(qtext(c.start));
-    mnuRetry->setText(qtext(c.retry));
-    mnuRecord->setText(qtext(c.record));
-    mnuVS->setText(qtext(c.vs));
-    mnuExit->setText(qtext(c.exit));
-    mnuChangeMode->setText(qtext(c.changeMode));
-    mnuCurrentCondition->setText(qtext(c.currentCondition));
-    mnuOption_->setTitle(qtext(c.option));
-    mnuSound->setText(qtext(c.sound));
-    mnuHelp_->setTitle(qtext(c.help));
-    mnuHelpCont->setText(qtext(c.helpContents));
-    mnuKey->setText(qtext(c.key));
-    mnuAbout->setText(qtext(c.about));
+    mnuGame_->setTitle(QString::fromStdString(c.game));
+    mnuStart->setText(QString::fromStdString(c.start));
+    mnuRetry->setText(QString::fromStdString(c.retry));
+    mnuRecord->setText(QString::fromStdString(c.record));
+    mnuVS->setText(QString::fromStdString(c.vs));
+    mnuExit->setText(QString::fromStdString(c.exit));
+    mnuChangeMode->setText(QString::fromStdString(c.changeMode));
+    mnuCurrentCondition->setText(QString::fromStdString(c.currentCondition));
+    mnuOption_->setTitle(QString::fromStdString(c.option));
+    mnuSound->setText(QString::fromStdString(c.sound));
+    mnuHelp_->setTitle(QString::fromStdString(c.help));
+    mnuHelpCont->setText(QString::fromStdString(c.helpContents));
+    mnuKey->setText(QString::fromStdString(c.key));
+    mnuAbout->setText(QString::fromStdString(c.about));
 }
 
 void HiddenMenu::syncFromState(const ControlsState& c) {
@@ -59,7 +53,7 @@ void HiddenMenu::syncFromState(const ControlsState& c) {
     mnuRetry->setEnabled(c.mnuRetryEnabled);
     mnuSound->setChecked(c.mnuSoundChecked);
     if (!c.mnuChangeModeCaption.empty())
-        mnuChangeMode->setText(qtext(c.mnuChangeModeCaption));
+        mnuChangeMode->setText(QString::fromStdString(c.mnuChangeModeCaption));
 }
 
 } // namespace morvane

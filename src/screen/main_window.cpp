@@ -45,10 +45,6 @@ constexpr QRgb kLabelRest = qRgb(192, 0, 192);
 constexpr QRgb kLabelHover = qRgb(255, 0, 255);
 constexpr const char* kStripLabelStyle = "color: rgb(0, 255, 0); background: rgb(64, 64, 64);";
 
-QString qtext(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
 QString labelColour(bool hover) {
     return QString("color: %1; background: transparent;")
         .arg(QColor(hover ? kLabelHover : kLabelRest).name());
@@ -252,7 +248,7 @@ void MainWindow::mouseMoveEvent(QMouseEvent*) {
 void MainWindow::syncControlsFromState() {
     const ControlsState& c = g_.controls;
     syncing_ = true;
-    setWindowTitle(qtext(c.windowCaption));
+    setWindowTitle(QString::fromStdString(c.windowCaption));
     for (int i = 0; i < 3; ++i) {
         lblMenu_[i]->setVisible(c.lblMenuVisible[i]);
         if (shownHover_[i] != int(c.lblMenuHover[i])) {
@@ -260,11 +256,12 @@ void MainWindow::syncControlsFromState() {
             lblMenu_[i]->setStyleSheet(labelColour(c.lblMenuHover[i]));
         }
     }
-    lblPower_->setText(qtext(c.powerCaption));
+    lblPower_->setText(QString::fromStdString(c.powerCaption));
     HScroll1_->setValue(c.power);
     HScroll1_->setEnabled(c.powerEnabled);
-    cmdShot_->setText(qtext(c.shotCaption));
-    cmdShot_->setFont(gameFont(qtext(c.shotFont.name), c.shotFont.size, c.shotFont.bold));
+    cmdShot_->setText(QString::fromStdString(c.shotCaption));
+    cmdShot_->setFont(
+        gameFont(QString::fromStdString(c.shotFont.name), c.shotFont.size, c.shotFont.bold));
     cmdShot_->setEnabled(c.shotEnabled);
     menu_->syncFromState(c);
     picMenu_->syncFromState(g_);
