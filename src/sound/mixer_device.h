@@ -4,8 +4,6 @@
 
 #include "sound/warn_once.h"
 
-#include <string>
-
 namespace morvane {
 
 constexpr int kMixRate = 44100;
@@ -21,14 +19,13 @@ class MixerDevice {
     MixerDevice& operator=(const MixerDevice&) = delete;
 
     bool isOpen() const { return open_; }
+    // The samples a second the device took, which the music is rendered at.
+    int rate() const { return rate_; }
 
   private:
     bool audioStarted_ = false;
     bool open_ = false;
+    int rate_ = kMixRate;
 };
-
-// The General MIDI soundfont for the tunes: what SDL_SOUNDFONTS names if set, else the first of
-// Debian's usual places that exists; empty if none does.
-std::string findSoundFont();
 
 } // namespace morvane

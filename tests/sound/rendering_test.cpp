@@ -116,6 +116,8 @@ TEST_F(Rendering, TheMenuTuneSoundsThroughTheGeneralMidiSoundfont) {
         ASSERT_TRUE(sound.hasDevice()) << warnings.str();
         expectSixteenBitStereo();
         sound.sendMusic("open menu.mid");
+        // The mixer runs at full speed: let it have the soundfont and the tune before listening.
+        sound.waitForMusicLoads();
         startedAt = bytesWritten();
         sound.sendMusic("play menu.mid");
         ASSERT_TRUE(waitForMixer([&] { return bytesWritten() >= startedAt + bytesToHear; }));
