@@ -24,17 +24,25 @@ struct MusicTracks::Tune {
 MusicTracks::MusicTracks(std::filesystem::path folder, WarnOnce& warnings, LoadingWorker& loader,
                          int sampleRate)
     : folder_(std::move(folder)), warnings_(warnings), loader_(loader), synth_(sampleRate) {
+    Mix_HookMusic(MusicSynth::mix, &synth_);
+}
+
+// With the first tune opened, not before: with the music switched off the soundfont is never
+// read and takes no memory. The loading thread reads it ahead of that first tune.
+void MusicTracks::readSoundFontOnce() {
+    if (soundFontAsked_)
+        return;
+    soundFontAsked_ = true;
     const std::string font = findSoundFont();
     if (font.empty()) {
         warnings_.warn("soundfont", "no General MIDI soundfont found; the music will be silent");
-    } else {
-        loader_.post([this, font] {
-            if (!synth_.loadSoundFont(font))
-                warnings_.warn("soundfont",
-                               "can't read the soundfont " + font + "; the music will be silent");
-        });
+        return;
     }
-    Mix_HookMusic(MusicSynth::mix, &synth_);
+    loader_.post([this, font] {
+        if (!synth_.loadSoundFont(font))
+            warnings_.warn("soundfont",
+                           "can't read the soundfont " + font + "; the music will be silent");
+    });
 }
 
 MusicTracks::~MusicTracks() {
@@ -59,6 +67,7 @@ void MusicTracks::command(const std::string& text) {
 void MusicTracks::open(const std::string& name) {
     if (isOpen(name))
         return;
+    readSoundFontOnce();
     auto tune = std::make_shared<Tune>(name, tunesInMemory_);
     tracks_.emplace(name, tune);
     loader_.post([this, tune] { read(tune); });

@@ -19,7 +19,7 @@ namespace morvane {
 
 class MusicTracks {
   public:
-    // Needs the mixer open at `sampleRate`; has `loader` read the soundfont at once.
+    // Needs the mixer open at `sampleRate`; `loader` reads the soundfont and the tunes.
     MusicTracks(std::filesystem::path folder, WarnOnce& warnings, LoadingWorker& loader,
                 int sampleRate);
     // Leaves the mixer's music stream, then lets the loading thread finish with the tunes.
@@ -42,11 +42,13 @@ class MusicTracks {
     void play(const std::string& name);
     void close(const std::string& name);
     void read(const std::shared_ptr<Tune>& tune);
+    void readSoundFontOnce();
 
     std::filesystem::path folder_;
     WarnOnce& warnings_;
     LoadingWorker& loader_;
     MusicSynth synth_;
+    bool soundFontAsked_ = false;
     std::atomic<int> tunesInMemory_{0};
     std::map<std::string, std::shared_ptr<Tune>> tracks_; // the open tunes; the game's thread only
     std::mutex mutex_; // between the game's thread and the loading thread: the tunes' state
