@@ -91,8 +91,8 @@ BENCHMARK(BM_ClickReachesTheMix)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
-// Opening a tune reads it and, for the soundfont synthesiser, the soundfont: the music tick
-// that starts a track waits for this.
+// What the music tick that starts a track waits for: opening, playing and closing a tune. The
+// files are read on the loading thread; the soundfont once a run.
 void BM_OpenAndCloseATune(benchmark::State& state) {
     ::setenv("SDL_AUDIODRIVER", "dummy", 1);
     SdlSound sound(kFolder);

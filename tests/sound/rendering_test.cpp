@@ -109,7 +109,7 @@ TEST_F(Rendering, AHardClickComesOutAtTheLevelOfItsFile) {
 
 TEST_F(Rendering, TheMenuTuneSoundsThroughTheGeneralMidiSoundfont) {
     constexpr size_t kSecondsToHear = 3;
-    const size_t bytesToHear = kSecondsToHear * 44100 * kBytesPerFrame;
+    const size_t bytesToHear = kSecondsToHear * kMixRate * kBytesPerFrame;
     std::ostringstream warnings;
     size_t startedAt = 0;
     {
@@ -147,7 +147,7 @@ TEST_F(Rendering, EveryTuneLeavesTheLoudestEffectRoomBelowFullScale) {
             sound.waitForMusicLoads();
             startedAt = bytesWritten();
             sound.sendMusic(std::string("play ") + tune);
-            const auto bytes = size_t(kTuneSeconds * 44100) * kBytesPerFrame;
+            const auto bytes = size_t(kTuneSeconds * kMixRate) * kBytesPerFrame;
             ASSERT_TRUE(waitForMixer([&] { return bytesWritten() >= startedAt + bytes; }));
         }
         const Level music = levelOf(samplesOf(output, startedAt));
