@@ -11,6 +11,7 @@
 #include <fstream>
 #include <future>
 #include <sstream>
+#include <utility>
 
 using namespace morvane;
 using namespace morvane::testing;
@@ -26,18 +27,25 @@ class Tunes : public ::testing::Test {
     LoadingWorker loader;
     std::optional<MusicTracks> tracks;
     std::promise<void> gate;
+    bool released = false;
 
     void SetUp() override {
         ASSERT_TRUE(device.isOpen()) << said.str();
         tracks.emplace(runtimeFolder(), warnings, loader, device.rate());
     }
-    void TearDown() override { tracks.reset(); }
+    void TearDown() override {
+        release(); // whatever a failed check left held
+        tracks.reset();
+    }
 
     // Keeps the loading thread busy until `release`, as a slow disk would.
     void holdTheLoader() {
         loader.post([future = gate.get_future().share()] { future.wait(); });
     }
-    void release() { gate.set_value(); }
+    void release() {
+        if (!std::exchange(released, true))
+            gate.set_value();
+    }
 };
 
 TEST_F(Tunes, ATunePlayedBeforeItIsReadStartsOnceItIs) {
