@@ -61,8 +61,7 @@ MusicSynth::~MusicSynth() {
 }
 
 bool MusicSynth::loadSoundFont(const std::string& path) {
-    // Not under the mutex: nothing renders before a tune starts, and no tune starts before
-    // this has returned.
+    // Nothing renders before this has returned.
     const bool loaded =
         synth_ != nullptr && fluid_synth_sfload(synth_, path.c_str(), 1) != FLUID_FAILED;
     hasSoundFont_ = loaded;
@@ -72,24 +71,27 @@ bool MusicSynth::loadSoundFont(const std::string& path) {
 void MusicSynth::start(const std::vector<unsigned char>& midi) {
     if (!hasSoundFont())
         return;
-    std::lock_guard<std::mutex> lock(mutex_);
-    dropPlayer();
-    player_ = new_fluid_player(synth_);
-    if (player_ == nullptr)
-        return;
-    if (fluid_player_add_mem(player_, midi.data(), midi.size()) != FLUID_OK ||
-        fluid_player_play(player_) != FLUID_OK)
-        dropPlayer();
+    std::lock_guard<std::mutex> lock(requestMutex_);
+    request_ = Request{midi};
+    playing_ = true;
 }
 
 void MusicSynth::stop() {
-    std::lock_guard<std::mutex> lock(mutex_);
-    dropPlayer();
+    std::lock_guard<std::mutex> lock(requestMutex_);
+    request_ = Request{};
+    playing_ = false;
 }
 
-bool MusicSynth::isPlaying() {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return player_ != nullptr && fluid_player_get_status(player_) == FLUID_PLAYER_PLAYING;
+void MusicSynth::carryOut(const Request& request) {
+    dropPlayer();
+    if (request.midi.empty())
+        return;
+    player_ = new_fluid_player(synth_);
+    if (player_ == nullptr)
+        return;
+    if (fluid_player_add_mem(player_, request.midi.data(), request.midi.size()) != FLUID_OK ||
+        fluid_player_play(player_) != FLUID_OK)
+        dropPlayer();
 }
 
 void MusicSynth::dropPlayer() {
@@ -110,16 +112,24 @@ void MusicSynth::render(Sint16* frames, int count) {
     // FluidSynth keeps its own lock, and nothing may wait for it here.
     if (!hasSoundFont())
         return;
-    // The commands hold this lock only to swap a player, for microseconds.
-    std::lock_guard<std::mutex> lock(mutex_);
+    std::optional<Request> request;
+    {
+        std::lock_guard<std::mutex> lock(requestMutex_);
+        request.swap(request_);
+    }
+    if (request)
+        carryOut(*request);
     const bool tuneGoesOn =
         player_ != nullptr && fluid_player_get_status(player_) == FLUID_PLAYER_PLAYING;
     if (tuneGoesOn || fluid_synth_get_active_voice_count(synth_) > 0)
         ringingFrames_ = ringOutFrames_;
-    if (ringingFrames_ <= 0)
-        return; // nothing sounds: the synthesiser costs nothing
-    fluid_synth_write_s16(synth_, count, frames, 0, kStereo, frames, 1, kStereo);
-    ringingFrames_ -= count;
+    if (ringingFrames_ > 0) { // else nothing sounds, and the synthesiser costs nothing
+        fluid_synth_write_s16(synth_, count, frames, 0, kStereo, frames, 1, kStereo);
+        ringingFrames_ -= count;
+    }
+    std::lock_guard<std::mutex> lock(requestMutex_);
+    if (!request_) // a newer word has its own say
+        playing_ = tuneGoesOn;
 }
 
 } // namespace morvane

@@ -12,6 +12,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,23 +40,32 @@ class MusicSynth {
     bool hasSoundFont() const { return hasSoundFont_.load(); }
 
     // Plays the tune in `midi` from its start, in place of any other. Without a soundfont it
-    // plays nothing.
+    // plays nothing. Like stop(), it only leaves word for the mixer's thread, which acts on it
+    // with the next stretch it renders: the caller never waits for the rendering.
     void start(const std::vector<unsigned char>& midi);
     // Stops the tune; the notes it held die away as released keys do.
     void stop();
-    bool isPlaying();
+    // Whether a tune plays: from the moment it is asked to until it is stopped or has ended.
+    bool isPlaying() const { return playing_.load(); }
 
     // The mixer's music hook: fills the stream with the next stretch of the tune.
     static void SDLCALL mix(void* synth, Uint8* stream, int bytes);
 
   private:
+    // A tune to start, or none to stop.
+    struct Request {
+        std::vector<unsigned char> midi;
+    };
     void render(Sint16* frames, int count);
+    void carryOut(const Request& request);
     void dropPlayer();
 
-    std::mutex mutex_; // the player, and the synthesiser while it renders
+    std::mutex requestMutex_;        // held for a moment to leave or take the request
+    std::optional<Request> request_; // the latest word, not yet acted on
+    std::atomic<bool> playing_{false};
     fluid_settings_t* settings_ = nullptr;
     fluid_synth_t* synth_ = nullptr;
-    fluid_player_t* player_ = nullptr;
+    fluid_player_t* player_ = nullptr; // the mixer's thread only, once the mixer runs
     std::atomic<bool> hasSoundFont_{false};
     int ringingFrames_ = 0; // still to render after the last note, for the reverb to fade
     int ringOutFrames_ = 0;

@@ -32,7 +32,7 @@ class MusicTracks {
     // The track playing, or asked to play and still being read; empty when the music is silent.
     std::string playing();
     // Whether the synthesiser plays a tune at all, whatever was asked.
-    bool isSounding() { return synth_.isPlaying(); }
+    bool isSounding() const { return synth_.isPlaying(); }
     // Tunes held in memory: the open ones, and closed ones the loading thread still reads.
     int tunesInMemory() const { return tunesInMemory_.load(); }
 
