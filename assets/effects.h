@@ -6,7 +6,7 @@
 namespace morvane::assets {
 
 // How far below their old full-scale peaks the effects now peak, at the same loudness: the
-// hardest click at 0.52 of full scale, which with the music's loudest moment (0.45) stays
+// hardest click at 0.52 of full scale, which with the music's loudest moment (0.47) stays
 // clear of clipping however the two meet.
 inline constexpr double kEffectHeadroom = 0.52 / 0.9;
 

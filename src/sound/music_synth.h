@@ -22,7 +22,7 @@ typedef struct _fluid_player_t fluid_player_t;
 
 namespace morvane {
 
-// How loud the tunes play: FluidSynth's gain. Their loudest moments then reach 0.45 of full
+// How loud the tunes play: FluidSynth's gain. Their loudest moments then reach 0.47 of full
 // scale, which leaves the effects the rest (see the effects' ceiling in the generator).
 constexpr float kMusicGain = 0.8f;
 // The most notes that sound at once; the busiest tune needs 75, so none is ever cut short.
