@@ -1,9 +1,9 @@
 #include "rules/undo.h"
 
+#include "game/shot_input.h"
 #include "rules/new_game.h"
 #include "rules/next_shot.h"
 #include "rules/shot_judging.h"
-#include "table/shot_input.h"
 
 namespace morvane {
 

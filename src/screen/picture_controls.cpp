@@ -1,6 +1,6 @@
 #include "screen/picture_controls.h"
 
-#include "table/constants.h"
+#include "game/shot_input.h"
 
 #include <QMouseEvent>
 #include <QPainter>

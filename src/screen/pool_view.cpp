@@ -1,8 +1,8 @@
 #include "screen/pool_view.h"
 
+#include "game/view_coords.h"
 #include "screen/fonts.h"
 #include "screen/mouse_buttons.h"
-#include "table/constants.h"
 
 #include <QPaintEvent>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "screen/table_drawing.h"
 
+#include "game/text.h"
+#include "game/view_coords.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
-#include "table/text.h"
-#include "table/view_coords.h"
 
 #include <QPainter>
 #include <cmath>

@@ -80,8 +80,7 @@ Rebound reboundFrom(const BallType& b, int cushionId) {
 
 } // namespace
 
-int16_t checkPocket(GameState& g, int n, int cushionId) {
-    BallType& b = g.Balls[n];
+int16_t checkPocket(BallType& b, int cushionId) {
     const int16_t pocket = pocketOnCushion(b, cushionId);
     if (pocket != kNoPocket) {
         b.onTable = false;
@@ -90,8 +89,7 @@ int16_t checkPocket(GameState& g, int n, int cushionId) {
     return pocket;
 }
 
-void bounceCushion(GameState& g, int n, int cushionId) {
-    BallType& b = g.Balls[n];
+void bounceCushion(BallType& b, int cushionId) {
     const Rebound r = reboundFrom(b, cushionId);
     b.angle = float(r.angle);
     if (b.speed <= 0)

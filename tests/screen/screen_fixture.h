@@ -2,10 +2,10 @@
 // be read back pixel by pixel.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/main_window.h"
 #include "screen/qt_screen.h"
 #include "startup/scheduler.h"
-#include "table/game_state.h"
 
 #include <QApplication>
 #include <QDialog>
