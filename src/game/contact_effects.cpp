@@ -3,6 +3,7 @@
 #include "game/sounds.h"
 #include "table/geometry.h"
 #include "table/motion.h"
+#include "table/pockets.h"
 
 #include <cmath>
 
@@ -53,7 +54,7 @@ void ContactEffects::beforeSearch() {
 void ContactEffects::onContact(float timeInFrame, int ball, int partner, int pocket) {
     if (!isCushion(partner))
         answerBall(g_, ball, partner);
-    else if (pocket != 0)
+    else if (pocket != kNoPocket)
         answerPocket(g_, ball, pocket);
     else
         answerCushion(g_, ball);

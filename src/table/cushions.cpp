@@ -8,14 +8,6 @@ namespace morvane {
 
 namespace {
 
-constexpr int16_t kNoPocket = 0;
-constexpr int16_t kPocketTopLeft = 1;
-constexpr int16_t kPocketTopMiddle = 2;
-constexpr int16_t kPocketTopRight = 3;
-constexpr int16_t kPocketBottomLeft = 4;
-constexpr int16_t kPocketBottomMiddle = 5;
-constexpr int16_t kPocketBottomRight = 6;
-
 bool within(float value, double low, double high) {
     return value >= low && value <= high;
 }

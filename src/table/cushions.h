@@ -2,10 +2,11 @@
 #pragma once
 
 #include "table/ball.h"
+#include "table/pockets.h"
 
 namespace morvane {
 
-// The pocket 1 to 6 that takes the ball, or 0.
+// The pocket that takes the ball, or kNoPocket.
 int16_t checkPocket(BallType& b, int cushionId);
 void bounceCushion(BallType& b, int cushionId);
 

@@ -76,7 +76,7 @@ int answerContact(BallArray& balls, const NextContact& next) {
     }
     BallType& b = balls[next.ball];
     const int pocket = checkPocket(b, next.partner);
-    if (pocket == 0)
+    if (pocket == kNoPocket)
         bounceCushion(b, next.partner);
     return pocket;
 }
