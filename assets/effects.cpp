@@ -105,14 +105,14 @@ void limit(Signal& s, double ceiling) {
     }
 }
 
-// Masters the sound as loud as it sounds at `loudPeak`, its peak held at `loudPeak` times the
-// effects' headroom, and fades its last milliseconds. The ear hears a short sound by its energy
-// over a tenth of a second or so, so the limiter's losses are made up until the loudest such
-// stretch holds the energy it held at full height.
+// Masters the sound as loud as it sounds at `loudPeak` times the effects' level, its peak held
+// under its ceiling, and fades its last milliseconds. The ear hears a short
+// sound by its energy over a tenth of a second or so, so the limiter's losses are made up until
+// the loudest such stretch holds the energy it held before.
 Signal finished(Signal s, double loudPeak) {
-    scale(s, loudPeak / peakOf(s));
+    scale(s, loudPeak * kEffectLevel / peakOf(s));
     const double loudness = loudnessOf(s);
-    const double ceiling = loudPeak * kEffectHeadroom;
+    const double ceiling = kEffectCeiling * std::sqrt(loudPeak / kLoudestNominalPeak);
     for (int pass = 0; pass < kMasteringPasses; ++pass) {
         limit(s, ceiling);
         scale(s, std::sqrt(loudness / loudnessOf(s)));

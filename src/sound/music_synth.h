@@ -22,9 +22,11 @@ typedef struct _fluid_player_t fluid_player_t;
 
 namespace morvane {
 
-// How loud the tunes play: FluidSynth's gain. Their loudest moments then reach 0.47 of full
-// scale, which leaves the effects the rest (see the effects' ceiling in the generator).
-constexpr float kMusicGain = 0.8f;
+// How loud the tunes play: FluidSynth's gain, 2.2 dB below the 1.2 that SDL_mixer's own MIDI
+// player gives at full volume, as the effects are below their nominal level. The tunes' loudest
+// moments then reach 0.54 of full scale, and leave the effects the rest (see their headroom
+// in the generator).
+constexpr float kMusicGain = 0.93f;
 // The most notes that sound at once; the busiest tune needs 75, so none is ever cut short.
 constexpr int kMusicPolyphony = 128;
 
