@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Checks the Debian package on this machine as a player would meet it: installs it with apt,
 # checks the menu entry, the AppStream file and the manual pages it installed, plays the
-# installed game from its menu entry's command under X11 and Wayland (scripts/smoke-platforms.sh),
-# then removes the package and checks that none of its files is left, only the player's own
+# installed game from its menu entry's command under X11 and Wayland (scripts/smoke-platforms.sh)
+# and at scales 1 and 2 (scripts/scale-shots.sh), then removes the package and checks that none of its files is left, only the player's own
 # settings and records. Needs root or sudo; leaves the package removed, as it found the machine.
 #
 #   bash scripts/package.sh && bash scripts/check-package.sh [build/morvane_VERSION_ARCH.deb]
 #
-# MORVANE_CHECK_OUT names a folder in which the screenshots, the logs and the player's home of
-# the run are left.
+# MORVANE_CHECK_OUT names a folder in which the screenshots (the installed game at scales 1 and 2
+# among them), the logs and the player's home of the run are left.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -66,6 +66,10 @@ sim_out=$(echo '{"break": true}' | /usr/bin/morvane-sim shot --seed 1)
 grep -q '"stopped":true' <<<"$sim_out" || fail "the installed morvane-sim played no shot"
 echo "== the installed game, from its menu entry"
 MORVANE_SMOKE_OUT=$out/run bash scripts/smoke-platforms.sh "$program"
+echo "== the installed game at scales 1 and 2, its pictures drawn for each"
+grep -q '^/usr/share/morvane/pictures@2x.rcc$' "$out/files" || fail "no pictures for scale 2"
+mkdir -p "$out/scales"
+MORVANE_GAME=$program MORVANE_SHOTS=$out/scales bash scripts/scale-shots.sh
 
 echo "== apt remove morvane"
 "${sudo_cmd[@]}" apt-get remove -y -qq morvane >/dev/null

@@ -169,7 +169,9 @@ table_on_screen() { grab "$shot" && (($(pixels_of "$shot" '#339966' "$solo_play"
 wait_for "the table of a solo game" table_on_screen
 
 # The break: the caption of SHOT! goes grey while the balls roll and black again once they
-# have stopped and the next shot is set up.
+# have stopped and the next shot is set up. A foul on the break, or the nine falling, brings up a
+# form first; Escape closes each as a player could, and the game goes on to its next shot or its
+# record screen (black there too).
 caption_dark_pixels() {
     grab "$work/caption.png" 125x31+210+334 &&
         convert "$work/caption.png" -colorspace gray -threshold 30% -negate \
@@ -182,7 +184,17 @@ wait_for "SHOT! ready for the break" shot_ready
 grab "$work/rack.png" "$table"
 click_at 272 349
 wait_for "the balls rolling after SHOT!" balls_rolling
-wait_for "the balls to stop after the break" shot_ready
+close_forms() {
+    local form
+    for form in $(xdotool search --onlyvisible --class '^morvane$' 2>/dev/null); do
+        [ "$form" = "$window" ] && continue
+        echo "x11: a form came up after the break; Escape closes it"
+        xdotool windowfocus --sync "$form" key Escape 2>/dev/null || true
+        return 1
+    done
+}
+break_over() { close_forms && shot_ready; }
+wait_for "the balls to stop after the break" break_over
 grab "$work/broken.png" "$table"
 moved=$(compare -metric AE "$work/rack.png" "$work/broken.png" null: 2>&1 || true)
 ((moved > 1000)) || fail "the break left the table as it was ($moved pixels changed)"
