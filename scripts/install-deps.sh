@@ -8,6 +8,8 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     timgm6mb-soundfont fonts-liberation fonts-ipafont-gothic
     xvfb xauth xdg-utils xdotool imagemagick openbox
+    weston qt6-wayland
+    appstream desktop-file-utils groff-base dpkg-dev file
 )
 
 missing=()

@@ -3,6 +3,7 @@
 #include "screen/pictures.h"
 #include "screen/qt_screen.h"
 #include "screen/qt_startup.h"
+#include "screen/termination_signals.h"
 #include "screen/timer_driver.h"
 #include "sound/sdl_sound.h"
 #include "startup/command_line.h"
@@ -56,7 +57,10 @@ int main(int argc, char* argv[]) {
     QtStartupPlatform platform(*g, window, screen, lock);
     if (!Form_Load(*g, joinArguments(argc, argv), platform))
         return 0;
-    QObject::connect(&window, &MainWindow::exitRequested, &app, [&] { Form_Unload(*g, platform); });
+    // Exit, the close box and the session's signals all leave through Form_Unload.
+    const auto unload = [&] { Form_Unload(*g, platform); };
+    QObject::connect(&window, &MainWindow::exitRequested, &app, unload);
+    endOnTerminationSignals(&app, unload);
 
     TimerDriver driver(
         *g, [&window] { window.syncControlsFromState(); },
