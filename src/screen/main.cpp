@@ -10,11 +10,13 @@
 #include "startup/local_clock.h"
 #include "startup/program_files.h"
 #include "startup/single_instance.h"
+#include "table/timers.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
 #include <chrono>
+#include <cstdlib>
 #include <memory>
 
 using namespace morvane;
@@ -23,6 +25,15 @@ namespace {
 
 uint64_t clockSeed() {
     return uint64_t(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+// For measuring the window through a whole solo game: with MORVANE_SELF_PLAY set, zeph takes the
+// player's turn whenever a solo game waits for a shot and no form is open.
+void letZephTakeTheSoloShot(GameState& g) {
+    const bool waiting = g.gameMode == kModeSolo && !isTimerEnabled(g, kTimer1) &&
+                         !isTimerEnabled(g, kTimCom) && !QApplication::activeModalWidget();
+    if (waiting)
+        setTimerEnabled(g, kTimCom, true);
 }
 
 } // namespace
@@ -57,8 +68,14 @@ int main(int argc, char* argv[]) {
         return 0;
     QObject::connect(&window, &MainWindow::exitRequested, &app, [&] { Form_Unload(*g, platform); });
 
+    const bool selfPlay = std::getenv("MORVANE_SELF_PLAY") != nullptr;
     TimerDriver driver(
-        *g, [&window] { window.syncControlsFromState(); },
+        *g,
+        [&window, &g, selfPlay] {
+            if (selfPlay)
+                letZephTakeTheSoloShot(*g);
+            window.syncControlsFromState();
+        },
         [&screen] { return screen.modalFormsShown(); });
     driver.start();
     return app.exec();

@@ -1,6 +1,9 @@
 // Drives the game's timers with real time: one precise Qt timer wakes when the next timer is due
-// (and at least every 10 ms) and runs the due ones through the scheduler. Optionally writes down
-// every game tick, when it started and what it cost, to the file named by MORVANE_TICK_LOG.
+// (and at least every 10 ms) and runs the due ones through the scheduler.
+//
+// Two opt-in logs: MORVANE_TICK_LOG=file writes down every game tick, when it started and what
+// it cost; MORVANE_TIMER_LOG=file writes down when each tick of Timer1 and Timer2 came and, from a
+// probe that looks every few milliseconds, every time the event loop was held up.
 #pragma once
 
 #include "table/game_state.h"
@@ -28,6 +31,8 @@ class TimerDriver : public QObject {
     void poll();
     void sleepUntilNextDue();
     void logTick(double startedMs, double costMs, bool openedForm);
+    void logTimerTicks(int64_t nowMs);
+    void probeLoop();
 
     GameState& g_;
     std::function<void()> afterTicks_;
@@ -35,6 +40,9 @@ class TimerDriver : public QObject {
     QTimer timer_;
     QElapsedTimer clock_;
     std::FILE* tickLog_ = nullptr;
+    std::FILE* timerLog_ = nullptr;
+    QTimer loopProbe_;
+    qint64 lastProbeNs_ = 0;
 };
 
 } // namespace morvane
