@@ -13,9 +13,10 @@
 #   bash scripts/measure-window.sh [PROGRAM] [PARTS...]
 #
 # PROGRAM defaults to build/bin/morvane; PARTS are any of cpu, tick, tunes (all by default).
-# MORVANE_XVFB_DISPLAY picks the display (default 14). On a shared machine the figures move with
+# MORVANE_XVFB_DISPLAY picks the display (default 14); MORVANE_MEASURE_LOGS names a folder to keep
+# the tick and timer logs in. On a shared machine the figures move with
 # the load of the others: run it twice, and compare programs back to back.
-# Needs xvfb, openbox, xdotool and python3.
+# Needs xvfb, openbox, xdotool, x11-utils (xwininfo) and python3.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 game=$(realpath "${1:-build/bin/morvane}")
@@ -34,7 +35,9 @@ cleanup() {
     rm -rf "$work"
 }
 trap cleanup EXIT
-export DISPLAY=$display SDL_AUDIODRIVER=dummy
+# A runtime folder of its own, so that copies of the game run by others don't count as this one.
+mkdir -m 700 "$work/run"
+export DISPLAY=$display SDL_AUDIODRIVER=dummy XDG_RUNTIME_DIR=$work/run
 sleep 1
 openbox >/dev/null 2>&1 &
 wm=$!
@@ -44,7 +47,8 @@ hz=$(getconf CLK_TCK)
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$game_pid/stat"; }
 rss_kb() { awk '/VmRSS/ {print $2}' "/proc/$game_pid/status"; }
 at() { xdotool mousemove $((X + $1)) $((Y + $2)); }
-click() { at "$1" "$2"; sleep 0.2; xdotool click 1; }
+# The menu's pictures light under a moving mouse, and the lit picture takes the click.
+click() { at "$1" "$2"; sleep 0.2; at $(($1 + 1)) "$2"; sleep 0.2; xdotool click 1; }
 park() { at 530 372; } # the mouse rests in the corner, over nothing that answers it
 percent() { python3 -c "print(f'{$1 * 100 / $hz / $2:.2f}')"; }
 
@@ -60,10 +64,20 @@ start_game() {
     (cd "$work" && exec env MORVANE_HOME="$home" "$@" "$game" >"$home/game.log" 2>&1) &
     game_pid=$!
     local win
-    win=$(xdotool search --sync --onlyvisible --name "MORVANE" | head -1)
-    eval "$(xdotool getwindowgeometry --shell "$win")"
+    win=$(timeout 60 xdotool search --sync --onlyvisible --name "MORVANE" | head -1)
+    [ -n "$win" ] || { echo "the window did not come up" >&2; cat "$home/game.log" >&2; exit 1; }
+    # The client area's place on the screen (xdotool's own geometry counts the frame twice).
+    X=$(xwininfo -id "$win" | awk '/Absolute upper-left X/ {print $4}')
+    Y=$(xwininfo -id "$win" | awk '/Absolute upper-left Y/ {print $4}')
     sleep 2
     park
+}
+
+keep_log() {
+    if [ -n "${MORVANE_MEASURE_LOGS:-}" ]; then
+        mkdir -p "$MORVANE_MEASURE_LOGS"
+        cp "$1" "$MORVANE_MEASURE_LOGS/"
+    fi
 }
 
 stop_game() {
@@ -125,17 +139,23 @@ tick_part() {
     start_game 0 MORVANE_SELF_PLAY=1 MORVANE_TICK_LOG="$log"
     click 97 76 # Solo Play; zeph takes every shot
     park
-    # The game is over when a tick opens the statistics form.
-    for _ in $(seq 1 600); do
-        grep -q ' 1$' "$log" 2>/dev/null && break
-        sleep 1
+    # A foul's message is answered at once; the game is over when its statistics come up.
+    local box
+    for _ in $(seq 1 1200); do
+        xdotool search --onlyvisible --name "^Your Record$" >/dev/null 2>&1 && break
+        box=$(xdotool search --onlyvisible --name "^Massage from Morvane$" 2>/dev/null | head -1 || true)
+        [ -n "$box" ] && xdotool windowactivate "$box" key Return 2>/dev/null || true
+        sleep 0.5
     done
+    local ended=0
+    xdotool search --onlyvisible --name "^Your Record$" >/dev/null 2>&1 && ended=1
     stop_game
-    python3 - "$log" <<'EOF'
+    keep_log "$log"
+    python3 - "$log" "$ended" <<'EOF'
 import sys
 rows = [l.split() for l in open(sys.argv[1]).read().splitlines()[1:]]
 costs = sorted(float(r[1]) for r in rows if r[2] == '0')
-ended = any(r[2] == '1' for r in rows)
+ended = sys.argv[2] == '1'
 def rank(share):
     return costs[min(len(costs) - 1, int(share * (len(costs) - 1) + 0.5))]
 print(f"tick cost over {'a whole' if ended else 'an unfinished'} solo game, {len(costs)} ticks: "
@@ -165,6 +185,7 @@ tunes_part() {
         sleep 3
     done
     stop_game
+    keep_log "$log"
     python3 - "$log" "$from" <<'EOF'
 import sys
 rows = [l.split() for l in open(sys.argv[1]).read().splitlines()[1:]]
