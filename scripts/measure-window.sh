@@ -44,7 +44,9 @@ wm=$!
 sleep 1
 
 hz=$(getconf CLK_TCK)
+# The whole process, and its first thread alone: the window's, without the sound's threads.
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$game_pid/stat"; }
+window_ticks() { awk '{print $14 + $15}' "/proc/$game_pid/task/$game_pid/stat"; }
 rss_kb() { awk '/VmRSS/ {print $2}' "/proc/$game_pid/status"; }
 at() { xdotool mousemove $((X + $1)) $((Y + $2)); }
 # The menu's pictures light under a moving mouse, and the lit picture takes the click.
@@ -80,6 +82,16 @@ keep_log() {
     fi
 }
 
+# Waits, answering at once any message the game puts up (a foul's, for one).
+wait_answering() {
+    local box
+    for _ in $(seq 1 $(($1 * 2))); do
+        box=$(xdotool search --onlyvisible --name "^Massage from Morvane$" 2>/dev/null | head -1 || true)
+        [ -n "$box" ] && xdotool windowactivate "$box" key Return 2>/dev/null || true
+        sleep 0.5
+    done
+}
+
 stop_game() {
     kill "$game_pid" 2>/dev/null || true
     wait "$game_pid" 2>/dev/null || true
@@ -89,18 +101,20 @@ stop_game() {
 # Processor time of `seconds` at the menu, in windows of 20 s: after each, a visit to the record
 # screen puts off the demo, which would come after 30 idle seconds.
 menu_cpu() {
-    local used=0 before
+    local used=0 window=0 before window_before
     for _ in 1 2 3; do
         before=$(cpu_ticks)
+        window_before=$(window_ticks)
         sleep 20
         used=$((used + $(cpu_ticks) - before))
+        window=$((window + $(window_ticks) - window_before))
         click 470 131 # Record
         sleep 1
         click 500 12 # back to the menu
         park
         sleep 2 # the menu's tune, if any, has opened
     done
-    echo "$used"
+    echo "$used $window"
 }
 
 cpu_part() {
@@ -109,17 +123,19 @@ cpu_part() {
         name=$([ "$music" = 0 ] && echo off || echo on)
         start_game "$music"
         echo "music $name: resident memory at the menu: $(rss_kb) kB"
-        local used
-        used=$(menu_cpu)
-        echo "music $name: processor at the menu: $(percent "$used" 60) % of a core ($used ticks in 60 s)"
+        local used window
+        read -r used window < <(menu_cpu)
+        echo "music $name: processor at the menu: $(percent "$used" 60) % of a core ($used ticks in 60 s), the window's thread $(percent "$window" 60) %"
         click 97 76 # Solo Play: the break swings
         park
         sleep 2
-        local before
+        local before window_before
         before=$(cpu_ticks)
+        window_before=$(window_ticks)
         sleep 60
         used=$(($(cpu_ticks) - before))
-        echo "music $name: processor waiting for the break: $(percent "$used" 60) % of a core ($used ticks in 60 s)"
+        window=$(($(window_ticks) - window_before))
+        echo "music $name: processor waiting for the break: $(percent "$used" 60) % of a core ($used ticks in 60 s), the window's thread $(percent "$window" 60) %"
         click 500 12 # Menu; 31 idle seconds bring the demo
         park
         sleep 34
@@ -140,12 +156,9 @@ tick_part() {
     click 97 76 # Solo Play; zeph takes every shot
     park
     # A foul's message is answered at once; the game is over when its statistics come up.
-    local box
-    for _ in $(seq 1 1200); do
+    for _ in $(seq 1 600); do
         xdotool search --onlyvisible --name "^Your Record$" >/dev/null 2>&1 && break
-        box=$(xdotool search --onlyvisible --name "^Massage from Morvane$" 2>/dev/null | head -1 || true)
-        [ -n "$box" ] && xdotool windowactivate "$box" key Return 2>/dev/null || true
-        sleep 0.5
+        wait_answering 1
     done
     local ended=0
     xdotool search --onlyvisible --name "^Your Record$" >/dev/null 2>&1 && ended=1
@@ -179,10 +192,10 @@ tunes_part() {
             click 272 349
         fi
         park
-        sleep 9 # the balls stop
+        wait_answering 9 # the balls stop
         click 500 12 # Menu
         park
-        sleep 3
+        wait_answering 3
     done
     stop_game
     keep_log "$log"
