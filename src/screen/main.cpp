@@ -1,4 +1,5 @@
 // The game: the window, the timers, start-up in its fixed order, and the way out.
+#include "game/timers.h"
 #include "screen/main_window.h"
 #include "screen/pictures.h"
 #include "screen/qt_screen.h"
@@ -10,7 +11,6 @@
 #include "startup/local_clock.h"
 #include "startup/program_files.h"
 #include "startup/single_instance.h"
-#include "table/timers.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -7,8 +7,8 @@
 // to show, and the tick never waits for the display.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/surfaces.h"
-#include "table/game_state.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -8,7 +8,7 @@
 // probe that looks every few milliseconds, every time the event loop was held up.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -7,7 +7,7 @@
 // nor counts as due, and comes back with its phase carried on by the ticks it missed.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <cstdint>
 

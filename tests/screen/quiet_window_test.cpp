@@ -2,8 +2,8 @@
 // timer is due, and the table view repaints only what moved by a pixel or more.
 #include "screen_fixture.h"
 
+#include "game/timers.h"
 #include "screen/timer_driver.h"
-#include "table/timers.h"
 
 #include <QAbstractEventDispatcher>
 #include <QEventLoop>

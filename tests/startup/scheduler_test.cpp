@@ -1,8 +1,8 @@
 // The scheduler of the six timers in virtual time.
+#include "game/shot_input.h"
+#include "game/timers.h"
 #include "rules/music.h"
 #include "startup/scheduler.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
 
 #include <gtest/gtest.h>
 
