@@ -65,8 +65,12 @@ start_game() {
     printf '[ZEPH]\nLV=11\nPG=0\n' >"$home/MVSCORE.INI"
     (cd "$work" && exec env MORVANE_HOME="$home" "$@" "$game" >"$home/game.log" 2>&1) &
     game_pid=$!
-    local win
-    win=$(timeout 60 xdotool search --sync --onlyvisible --name "MORVANE" | head -1)
+    local win=
+    for _ in $(seq 1 60); do
+        win=$(xdotool search --onlyvisible --name "^MORVANE Ver" 2>/dev/null | head -1 || true)
+        [ -n "$win" ] && break
+        sleep 1
+    done
     [ -n "$win" ] || { echo "the window did not come up" >&2; cat "$home/game.log" >&2; exit 1; }
     # The client area's place on the screen (xdotool's own geometry counts the frame twice).
     X=$(xwininfo -id "$win" | awk '/Absolute upper-left X/ {print $4}')
