@@ -72,6 +72,7 @@ struct MarkerState {
     float left = 0;
     float top = 0;
     bool visible = false;
+    bool operator==(const MarkerState&) const = default;
 };
 
 // A caption with its font, as the shot button and the labels carry them.
@@ -79,6 +80,7 @@ struct FontState {
     std::string name = "Arial";
     float size = 24;
     bool bold = true;
+    bool operator==(const FontState&) const = default;
 };
 
 // What the logic reads and writes of the window's controls.
@@ -127,6 +129,8 @@ struct ControlsState {
 
     std::string windowCaption;
     bool mainWindowVisible = false;
+
+    bool operator==(const ControlsState&) const = default;
 };
 
 struct GameState {
