@@ -14,8 +14,7 @@ void initPocketTable(GameState& g) {
     p[6] = {kCushionRightX, kCushionBottomY};
 }
 
-void mirrorPockets(GameState& g, int16_t cushion) {
-    auto& p = g.pocketTable;
+void mirrorPockets(PocketTable& p, int16_t cushion) {
     switch (cushion) {
     case kCushionLeft:
         p[7] = {float(double(kCushionLeftX) - p[3].x), p[3].y};

@@ -5,6 +5,7 @@
 #include "records/profile_file.h"
 #include "records/record_constants.h"
 #include "table/text.h"
+#include "table/zeph_level.h"
 
 #include <algorithm>
 #include <array>
@@ -126,7 +127,7 @@ void saveVsCpuRecord(const GameState& g) {
 void loadZephLevel(GameState& g) {
     const std::string file = scoreFilePath();
     const int32_t level = GetPrivateProfileIntA(kZephSection, "LV", kDefaultZephLevel, file);
-    g.zephLevel = int16_t(std::clamp<int32_t>(level, kLowestZephLevel, kHighestZephLevel));
+    g.zephLevel = int16_t(std::clamp<int32_t>(level, kZephLevelMin, kZephLevelMax));
     g.zephProgress =
         toInteger16(GetPrivateProfileIntA(kZephSection, "PG", kDefaultZephProgress, file));
 }

@@ -70,25 +70,26 @@ int runThinkCommand(const std::vector<std::string>& options, std::istream& in, s
         return reportBadInput(err, "think", error);
 
     // zeph's turn in a match, tick by tick up to the one that shoots. The plan is worked out
-    // again on a copy of the table as the decision tick finds it: the decision keeps it to itself.
+    // again on the table as the decision tick finds it: the decision keeps it to itself.
     g.gameMode = kModeVersus;
     g.zephLevel = int16_t(level);
     json plan = nullptr;
+    std::string strategy;
     while (g.cpuTickCounter < kTickShoot) {
         if (g.cpuTickCounter == kTickThink && !g.breakPending) {
-            GameState copy = g;
-            plan = planToJson(choosePlan(copy, copy.zephLevel));
+            const ShotPlan chosen = choosePlan(g, g.zephLevel);
+            plan = planToJson(chosen);
+            strategy = strategyName(chosen.strategy);
         }
         timCom_Timer(g);
     }
-    const std::string& remark = g.controls.zephsMessage;
     out << json{{"level", level},
                 {"plan", plan},
                 {"aimX", g.aimX},
                 {"aimY", g.aimY},
                 {"power", g.controls.power},
-                {"remark", remark},
-                {"strategy", strategyOfRemark(remark)},
+                {"remark", g.controls.zephsMessage},
+                {"strategy", strategy},
                 {"cue", {g.Balls[kCueBall].x, g.Balls[kCueBall].y}}}
                .dump()
         << "\n";
