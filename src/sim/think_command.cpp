@@ -6,6 +6,7 @@
 #include "sim/command_options.h"
 #include "sim/headless_session.h"
 #include "sim/play_watch.h"
+#include "sim/table_checks.h"
 #include "sim/table_json.h"
 #include "table/rack.h"
 #include "table/table_queries.h"
@@ -22,16 +23,18 @@ std::string readTable(const json& input, GameState& g) {
     rackBalls(g);
     g.breakPending = false;
     g.ballInHand = false;
-    PointType aim{g.aimX, g.aimY};
     std::string error = readBalls(input, g.Balls);
-    if (error.empty())
-        error = readPoint(input, "aim", aim);
     if (error.empty())
         error = readFlag(input, "ballInHand", g.ballInHand);
     if (error.empty())
         error = readFlag(input, "breakPending", g.breakPending);
-    if (error.empty() && !g.Balls[kCueBall].onTable)
-        error = "balls[0]: the cue ball must be on the table";
+    PointType aim = g.breakPending ? straightBreakAim() : PointType{g.aimX, g.aimY};
+    if (error.empty())
+        error = readPoint(input, "aim", kMouseReach, aim);
+    if (error.empty())
+        error = checkBallPlaces(g.Balls);
+    if (error.empty() && g.breakPending)
+        error = checkBreak(g.Balls, aim);
     if (error.empty() && getLowestBall(g) == 0)
         error = "balls: no object ball is on the table";
     g.aimX = aim.x;
