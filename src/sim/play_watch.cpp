@@ -5,6 +5,8 @@
 #include "table/table_queries.h"
 #include "table/timers.h"
 
+#include <array>
+
 namespace morvane::sim {
 
 ShotWatch::Change ShotWatch::look(const GameState& g) {
@@ -19,25 +21,12 @@ ShotWatch::Change ShotWatch::look(const GameState& g) {
 }
 
 const char* strategyName(Strategy strategy) {
-    switch (strategy) {
-    case Strategy::Direct:
-        return "tryDirect";
-    case Strategy::DirectCombination:
-        return "tryDirectCombination";
-    case Strategy::ObjectBank:
-        return "tryObjectBank";
-    case Strategy::CueBank:
-        return "tryCueBank";
-    case Strategy::CueBankCombination:
-        return "tryCueBankCombination";
-    case Strategy::JustHit:
-        return "tryJustHit";
-    case Strategy::CushionHit:
-        return "tryCushionHit";
-    case Strategy::None:
-        break;
-    }
-    return "none";
+    // In the order of Strategy.
+    static constexpr std::array<const char*, 8> kNames{
+        "none",          "tryDirect",    "tryDirectCombination",
+        "tryObjectBank", "tryCueBank",   "tryCueBankCombination",
+        "tryJustHit",    "tryCushionHit"};
+    return kNames[size_t(strategy)];
 }
 
 bool playsCombination(const ShotPlan& plan) {

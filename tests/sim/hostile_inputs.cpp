@@ -273,49 +273,23 @@ class Maker {
         const json sane = saneTable(forThink);
         const json table =
             sane.contains("balls") ? sane : json{{"balls", saneBalls()}, {"aim", anyAim()}};
-        switch (whole(0, 10)) {
-        case 0:
-        case 1:
-            h.kind = "sane";
-            h.text = sane.dump();
-            break;
-        case 2:
-            h.kind = "huge";
-            h.text = withToken(sane, kHugeNumbers);
-            break;
-        case 3:
-            h.kind = "not a number";
-            h.text = withToken(sane, kNotNumbers);
-            break;
-        case 4:
-            h.kind = "negative";
-            h.text = negative(sane);
-            break;
-        case 5:
-            h.kind = "overlapping";
-            h.text = overlapping(table);
-            break;
-        case 6:
-            h.kind = "off the table";
-            h.text = offTable(table);
-            break;
-        case 7:
-            h.kind = "truncated";
-            h.text = truncated(sane);
-            break;
-        case 8:
-            h.kind = "NUL byte";
-            h.text = withNul(sane);
-            break;
-        case 9:
-            h.kind = "wrong type";
-            h.text = wrongType(sane);
-            break;
-        default:
-            h.kind = "false break";
-            h.text = falseBreak(forThink);
-            break;
-        }
+        using Spoil = std::function<std::string()>;
+        const std::vector<std::pair<const char*, Spoil>> kinds{
+            {"sane", [&] { return sane.dump(); }},
+            {"sane", [&] { return sane.dump(); }},
+            {"huge", [&] { return withToken(sane, kHugeNumbers); }},
+            {"not a number", [&] { return withToken(sane, kNotNumbers); }},
+            {"negative", [&] { return negative(sane); }},
+            {"overlapping", [&] { return overlapping(table); }},
+            {"off the table", [&] { return offTable(table); }},
+            {"truncated", [&] { return truncated(sane); }},
+            {"NUL byte", [&] { return withNul(sane); }},
+            {"wrong type", [&] { return wrongType(sane); }},
+            {"false break", [&] { return falseBreak(forThink); }},
+        };
+        const auto& [kind, spoil] = kinds[size_t(whole(0, int(kinds.size()) - 1))];
+        h.kind = kind;
+        h.text = spoil();
         return h;
     }
 
