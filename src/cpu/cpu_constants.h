@@ -2,7 +2,7 @@
 #pragma once
 
 #include "table/constants.h"
-#include "table/zeph_level.h"
+#include "game/zeph_level.h"
 
 #include <cstdint>
 

@@ -1,11 +1,11 @@
 #include "records/score_file.h"
 
+#include "game/text.h"
+#include "game/zeph_level.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
 #include "records/record_constants.h"
-#include "table/text.h"
-#include "table/zeph_level.h"
 
 #include <algorithm>
 #include <array>

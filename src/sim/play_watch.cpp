@@ -2,8 +2,8 @@
 
 #include "cpu/cpu_constants.h"
 #include "cpu/shot_choice.h"
-#include "table/table_queries.h"
-#include "table/timers.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
 
 #include <array>
 

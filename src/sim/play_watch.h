@@ -3,7 +3,7 @@
 #pragma once
 
 #include "cpu/shot_plan.h"
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <map>
 #include <string>

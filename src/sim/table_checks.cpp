@@ -1,5 +1,6 @@
 #include "sim/table_checks.h"
 
+#include "game/shot_input.h"
 #include "table/rack.h"
 
 #include <cmath>
@@ -27,10 +28,10 @@ std::string ballName(int n) {
 } // namespace
 
 bool isRacked(const BallArray& balls) {
-    GameState racked;
+    BallArray racked;
     rackBalls(racked);
     for (int n = 1; n < kBallCount; ++n) {
-        if (!balls[n].onTable || distanceOf(balls[n], racked.Balls[n]) > kRackTolerance)
+        if (!balls[n].onTable || distanceOf(balls[n], racked[n]) > kRackTolerance)
             return false;
     }
     return true;

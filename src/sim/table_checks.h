@@ -4,7 +4,7 @@
 // naming the field at fault.
 #pragma once
 
-#include "table/game_state.h"
+#include "table/ball.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "sim/table_json.h"
 
-#include "table/view_coords.h"
+#include "game/view_coords.h"
 
 #include <cmath>
 #include <cstdint>

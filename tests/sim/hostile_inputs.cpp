@@ -1,6 +1,7 @@
 #include "hostile_inputs.h"
 
-#include "table/game_state.h"
+#include "game/shot_input.h"
+#include "table/constants.h"
 #include "table/rack.h"
 
 #include <nlohmann/json.hpp>
@@ -77,10 +78,10 @@ class Maker {
 
     // The game's own rack, the cue ball anywhere free on the table.
     json rackedBalls() {
-        GameState g;
-        rackBalls(g);
+        BallArray rack;
+        rackBalls(rack);
         json balls = json::array();
-        for (const BallType& b : g.Balls)
+        for (const BallType& b : rack)
             balls.push_back({{"x", b.x}, {"y", b.y}});
         if (chance(0.5)) {
             balls[0]["x"] = uniform(kCushionLeftX, 1500);

@@ -52,10 +52,10 @@ TEST(ShotCommand, FullPowerBreakRunsToRestAndReportsTheShot) {
 
 TEST(ShotCommand, ABreakRunsFromWhereverTheCueBallStandsAlongTheSwingsArc) {
     // The rack with the cue ball moved to the far corner, the aim at the end of the swing.
-    morvane::GameState g;
-    morvane::rackBalls(g);
+    morvane::BallArray rack;
+    morvane::rackBalls(rack);
     json balls = json::array();
-    for (const morvane::BallType& b : g.Balls)
+    for (const morvane::BallType& b : rack)
         balls.push_back({{"x", b.x}, {"y", b.y}});
     balls[0] = {{"x", 60}, {"y", 1140}};
     const double side = 3.1415926 / 5.6;
