@@ -174,6 +174,7 @@ struct GameState {
     // Modes, players and matches.
     int16_t gameMode = kModeMenu;
     int16_t demoCounter = 0;
+    int16_t demoShotsWithoutPot = 0; // shots in a row of the demo game with no ball potted
     std::array<PlayerType, 2> players{};
     int16_t matchTarget = 3;
     bool versusCpu = true;

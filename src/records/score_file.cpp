@@ -1,6 +1,7 @@
 #include "records/score_file.h"
 
 #include "game/text.h"
+#include "game/zeph_level.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
@@ -126,7 +127,7 @@ void saveVsCpuRecord(const GameState& g) {
 void loadZephLevel(GameState& g) {
     const std::string file = scoreFilePath();
     const int32_t level = GetPrivateProfileIntA(kZephSection, "LV", kDefaultZephLevel, file);
-    g.zephLevel = int16_t(std::clamp<int32_t>(level, kLowestZephLevel, kHighestZephLevel));
+    g.zephLevel = int16_t(std::clamp<int32_t>(level, kZephLevelMin, kZephLevelMax));
     g.zephProgress =
         toInteger16(GetPrivateProfileIntA(kZephSection, "PG", kDefaultZephProgress, file));
 }

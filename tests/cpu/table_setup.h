@@ -1,6 +1,7 @@
 // Small hand-made tables for zeph's tests.
 #pragma once
 
+#include "cpu/plan_remarks.h"
 #include "cpu/pocket_table.h"
 #include "cpu/shot_plan.h"
 #include "game/game_state.h"
@@ -47,12 +48,13 @@ inline GameState shutInTable() {
     return g;
 }
 
-// The remark a strategy leaves on a Japanese system, from a plan that has found nothing yet.
-template <typename Strategy> std::string japaneseRemarkOf(GameState g, Strategy strategy) {
-    g.isJapanese = true;
+// What zeph says of the plan that one search finds from scratch, in English or in Japanese.
+template <typename Search>
+std::string remarkAfter(const GameState& g, Search search, bool japanese = false) {
     ShotPlan plan = startPlan(g);
-    strategy(g, plan);
-    return g.controls.zephsMessage;
+    search(g, plan);
+    const Remark remark = remarkOf(plan);
+    return japanese ? remark.japanese : remark.english;
 }
 
 inline double degrees(double radians) {
