@@ -32,7 +32,8 @@ int usage(std::ostream& err) {
            "      for the record table\n"
            "  records\n"
            "      both record tables and zeph's level\n"
-           "bad input: one line on stderr and exit status 2\n";
+           "exit status: 0 done; 2 bad input (one line on stderr); 3 done, but the records or\n"
+           "  zeph's level could not be saved (\"saved\": false, and one line on stderr a save)\n";
     return kBadInput;
 }
 
