@@ -1,7 +1,7 @@
 #include "records/ini_document.h"
 
+#include "game/text.h"
 #include "records/text_bytes.h"
-#include "table/text.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,12 +1,12 @@
 #include "startup/settings.h"
 
+#include "game/text.h"
 #include "records/atomic_file.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
 #include "records/record_constants.h"
 #include "rules/music.h"
-#include "table/text.h"
 
 namespace morvane {
 
