@@ -187,6 +187,9 @@ struct GameState {
     // Records: rows 1 to 10 are the tables, 11 the working row, 0 unused.
     std::array<SoloRecordType, 12> soloRecords{};
     std::array<VsCpuRecordType, 12> vsCpuRecords{};
+    // Saves of the score file in this run, and how many of them failed.
+    int32_t scoreFileSaves = 0;
+    int32_t failedScoreFileSaves = 0;
 
     // Music.
     int16_t bgmScene = -1;

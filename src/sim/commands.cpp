@@ -53,7 +53,8 @@ int usage(std::ostream& err) {
            "  a break starts from the rack (the cue ball anywhere on the table) and is aimed\n"
            "  where the break swing puts the aim: 100 from the foot spot (1800, 600) towards\n"
            "  the head, at most 32.4 degrees to either side; without an aim, at (1700, 600)\n"
-           "bad input: one line on stderr and exit status 2\n";
+           "exit status: 0 done; 2 bad input (one line on stderr); 3 done, but the records or\n"
+           "  zeph's level could not be saved (\"saved\": false, and one line on stderr a save)\n";
     return kBadInput;
 }
 
