@@ -32,4 +32,9 @@ struct BallType {
 
 using BallArray = std::array<BallType, kBallCount>;
 
+// A ball with a speed below 0 (after an off-centre break) counts as at rest.
+inline bool isMoving(const BallType& b) {
+    return b.speed > 0 && b.onTable;
+}
+
 } // namespace morvane

@@ -4,22 +4,53 @@
 #include "table/contacts.h"
 #include "table/cushions.h"
 
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 namespace morvane {
 
 namespace {
 
-bool isMoving(const BallType& b) {
-    return b.speed > 0 && b.onTable;
-}
 bool isCushion(int partner) {
     return partner >= kCushionLeft && partner <= kCushionBottom;
 }
 
+// The cosine and sine of a ball's direction, as the velocity is worked out from them.
+struct Direction {
+    float cosine;
+    float sine;
+};
+
+Direction directionOf(float angle) {
+    return {std::cos(angle), std::sin(angle)};
+}
+
+// The directions of the balls over one frame. A ball keeps its direction from contact to
+// contact while the engine steps it many times, so each is worked out again only when the
+// ball's angle has changed, to the bit.
+class Directions {
+  public:
+    const Direction& of(int n, float angle) {
+        const uint32_t bits = std::bit_cast<uint32_t>(angle);
+        if (!known_[n] || bits_[n] != bits) {
+            directions_[n] = directionOf(angle);
+            bits_[n] = bits;
+            known_[n] = true;
+        }
+        return directions_[n];
+    }
+
+  private:
+    std::array<bool, kBallCount> known_{};
+    std::array<uint32_t, kBallCount> bits_{};
+    std::array<Direction, kBallCount> directions_{};
+};
+
 // Friction in two stages, chosen by the speed at the start of the step; follow and draw are lost
 // once the ball has slowed to the boundary, unless keepFollow.
-void advance(BallType& b, double t, bool keepFollow) {
+void advance(BallType& b, double t, bool keepFollow, const Direction& d) {
     b.prevX = b.x;
     b.prevY = b.y;
     b.x = float(b.x + double(b.vx) * t);
@@ -33,39 +64,16 @@ void advance(BallType& b, double t, bool keepFollow) {
     }
     if (b.speed <= 0)
         b.speed = 0;
-    b.vx = float(std::cos(b.angle) * b.speed);
-    b.vy = float(std::sin(b.angle) * b.speed);
+    b.vx = float(d.cosine * b.speed);
+    b.vy = float(d.sine * b.speed);
 }
 
-// The earliest contact of any moving ball. Only a strictly earlier time replaces the best, so
-// ties go to the lowest moving ball, then a cushion before a ball, then the lower number.
-struct NextContact {
-    float time = kNoContactTime;
-    int ball = kNoPartner;
-    int partner = kNoPartner;
-
-    void offer(float t, int i, int p) {
-        if (t < time) {
-            time = t;
-            ball = i;
-            partner = p;
-        }
+void stepBalls(BallArray& balls, double t, Directions& directions) {
+    for (int n = 0; n < kBallCount; ++n) {
+        BallType& b = balls[n];
+        if (isMoving(b))
+            advance(b, t, false, directions.of(n, b.angle));
     }
-};
-
-NextContact findNextContact(const BallArray& balls) {
-    NextContact next;
-    for (int i = 0; i < kBallCount; ++i) {
-        if (!isMoving(balls[i]))
-            continue;
-        for (int c = kCushionLeft; c <= kCushionBottom; ++c)
-            next.offer(timeToCushion(balls[i], c), i, c);
-        for (int j = 0; j < kBallCount; ++j) {
-            if (j != i && balls[j].onTable)
-                next.offer(timeToBall(balls[i], balls[j]), i, j);
-        }
-    }
-    return next;
 }
 
 // Answers the contact that the balls have just been moved to; returns the pocket, or 0.
@@ -86,31 +94,30 @@ int answerContact(BallArray& balls, const NextContact& next) {
 void runFrame(BallArray& balls, ContactObserver& observer) {
     const float frameTime = float(kFrameTime);
     float timeLeft = frameTime;
+    Directions directions;
     for (int pass = 0; pass < kMaxPassesPerFrame; ++pass) {
         observer.beforeSearch();
-        const NextContact next = findNextContact(balls);
+        const NextContact next = findNextContact(balls, timeLeft);
         if (next.time > timeLeft)
             break;
-        moveBalls(balls, next.time);
+        stepBalls(balls, next.time, directions);
         const float timeInFrame = float(double(frameTime) - timeLeft + next.time);
         const int pocket = answerContact(balls, next);
         observer.onContact(timeInFrame, next.ball, next.partner, pocket);
         timeLeft = float(timeLeft - next.time);
     }
     // The rest of the frame without contacts; after too many contacts too, so a frame always ends.
-    moveBalls(balls, timeLeft);
+    stepBalls(balls, timeLeft, directions);
 }
 
 void moveBalls(BallArray& balls, double t) {
-    for (BallType& b : balls) {
-        if (isMoving(b))
-            advance(b, t, false);
-    }
+    Directions directions;
+    stepBalls(balls, t, directions);
 }
 
 void moveBall(BallType& b, double t) {
     if (isMoving(b))
-        advance(b, t, true);
+        advance(b, t, true, directionOf(b.angle));
 }
 
 bool isAllStopped(const BallArray& balls) {

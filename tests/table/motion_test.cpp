@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 using namespace morvane;
 using namespace morvane::testing;
@@ -160,4 +161,44 @@ TEST(RunFrame, PassesOfOneFrameAreBoundedAndTheFrameStillEnds) {
     // The whole frame's time was then spent without contacts.
     EXPECT_FLOAT_EQ(balls[0].x, 2360 + 1000 * 0.05f);
     EXPECT_FLOAT_EQ(balls[0].speed, float(1000 - 0.05 * 746.6666666666667));
+}
+
+TEST(NextContact, AgreesWithAskingEveryPairOfRandomTables) {
+    // The plain search: every moving ball against every cushion and every other ball.
+    const auto askEveryPair = [](const BallArray& balls) {
+        NextContact next;
+        for (int i = 0; i < kBallCount; ++i) {
+            if (!isMoving(balls[i]))
+                continue;
+            for (int c = kCushionLeft; c <= kCushionBottom; ++c)
+                next.offer(timeToCushion(balls[i], c), i, c);
+            for (int j = 0; j < kBallCount; ++j) {
+                if (j != i && balls[j].onTable)
+                    next.offer(timeToBall(balls[i], balls[j]), i, j);
+            }
+        }
+        return next;
+    };
+    std::mt19937 random(5);
+    std::uniform_real_distribution<float> x(50, 2350), y(50, 1150), speed(-500, 8000), turn(-4, 4);
+    int withinFrame = 0;
+    for (int table = 0; table < 3000; ++table) {
+        BallArray balls = emptyTable();
+        for (int n = 0; n < kBallCount; ++n) {
+            putBall(balls, n, x(random), y(random), speed(random), turn(random));
+            balls[n].onTable = n % 7 != table % 7;
+        }
+        const float timeLeft = table % 2 ? 0.05f : 0.002f;
+        const NextContact all = askEveryPair(balls);
+        const NextContact found = findNextContact(balls, timeLeft);
+        if (all.time > timeLeft) {
+            EXPECT_GT(found.time, timeLeft) << "table " << table;
+            continue;
+        }
+        ++withinFrame;
+        EXPECT_EQ(found.time, all.time) << "table " << table;
+        EXPECT_EQ(found.ball, all.ball) << "table " << table;
+        EXPECT_EQ(found.partner, all.partner) << "table " << table;
+    }
+    EXPECT_GT(withinFrame, 500); // the tables give contacts to compare, not only misses
 }
