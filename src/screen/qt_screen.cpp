@@ -1,6 +1,7 @@
 #include "screen/qt_screen.h"
 
 #include "picture_names.h"
+#include "screen/forms/form_parts.h"
 #include "screen/forms/match_form.h"
 #include "screen/forms/name_form.h"
 #include "screen/forms/record_form.h"
@@ -80,6 +81,7 @@ void QtScreen::runModal(QDialog& form, const std::function<void(QDialog&)>& befo
     ++modalFormsShown_;
     if (beforeRunning)
         beforeRunning(form);
+    const HeldKeyGuard heldKeys(form);
     form.exec();
 }
 

@@ -9,7 +9,9 @@
 #include "rules/game_over.h"
 #include "rules/scenes.h"
 #include "screen/forms/match_form.h"
+#include "screen/forms/name_form.h"
 #include "screen/forms/opening_form.h"
+#include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
 #include "screen/qt_startup.h"
 #include "startup/form_load.h"
@@ -17,6 +19,7 @@
 #include "table/table_queries.h"
 #include "table/timers.h"
 
+#include <QKeyEvent>
 #include <QTest>
 #include <algorithm>
 #include <cstdio>
@@ -244,6 +247,64 @@ TEST_F(ShellTest, ASoloGameThatEarnsAPlaceOpensTheRecordScreenWithItsRowInMagent
     click(window->picScore(), {200, 200});
     EXPECT_FALSE(shown(window->picScore()));
     EXPECT_EQ(kModeSolo, g.gameMode) << "the fresh table behind it shows again";
+}
+
+// The X server repeats a held key as a release and a press that share one time stamp, to the
+// window that has the focus; Qt flags some of them as repeats and not others.
+void repeatHeldKey(QWidget* receiver, Qt::Key key, quint64 stamp) {
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+    release.setTimestamp(stamp);
+    QApplication::sendEvent(receiver, &release);
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    press.setTimestamp(stamp);
+    QApplication::sendEvent(receiver, &press);
+    qt_handleKeyEvent(receiver->window()->windowHandle(), QEvent::KeyPress, key, Qt::NoModifier,
+                      QString(), true);
+}
+
+// "Your Record" closed by Escape held a little too long, or by a click whose release reaches the
+// form after it: the name form that follows waits, its focus in the box, for the typed name.
+TEST_F(ShellTest, TheNameFormAfterTheRecordFormWaitsForTheNameHoweverTheRecordFormClosed) {
+    moveOver(menu().picture(kPicSoloPlay, 0));
+    click(menu().picture(kPicSoloPlay, 1));
+    g.turnCount = 2;
+    g.shotCount = 12;
+    g.gameSeconds = 95;
+    bool waited = false;
+    bool focusInBox = false;
+    QString afterBackspace;
+    screen->onForm = [&](QDialog& form) {
+        if (auto* record = qobject_cast<RecordForm*>(&form)) {
+            QTimer::singleShot(
+                0, record, [record] { QTest::keyPress(record->windowHandle(), Qt::Key_Escape); });
+            return;
+        }
+        auto* name = qobject_cast<NameForm*>(&form);
+        ASSERT_NE(name, nullptr);
+        QTimer::singleShot(0, name, [&, name] {
+            for (quint64 stamp : {700u, 740u, 780u})
+                repeatHeldKey(name->focusWidget(), Qt::Key_Escape, stamp);
+            QTest::keyRelease(name->windowHandle(), Qt::Key_Escape);
+            QTest::mouseRelease(name->picOK(), Qt::LeftButton); // its press was on "Your Record"
+            waited = name->isVisible();
+            focusInBox = name->focusWidget() == name->txtName();
+            if (!waited)
+                return;
+            QTest::keyClicks(name->txtName(), "Annx");
+            // A key pressed in the form repeats as ever.
+            QTest::keyPress(name->windowHandle(), Qt::Key_Backspace);
+            repeatHeldKey(name->txtName(), Qt::Key_Backspace, 900);
+            afterBackspace = name->txtName()->text();
+            QTest::keyClicks(name->txtName(), "e");
+            QTest::keyClick(name->windowHandle(), Qt::Key_Return);
+        });
+    };
+    endGame(g);
+    EXPECT_TRUE(waited) << "the name form closed by itself";
+    EXPECT_TRUE(focusInBox);
+    EXPECT_EQ(QString("A"), afterBackspace);
+    EXPECT_EQ("Ae                  ", g.soloRecords[1].Name);
+    EXPECT_EQ(11, g.soloRecords[1].place);
 }
 
 // A whole match against zeph at level 1, the person's shots chosen by zeph's own logic at level 1
