@@ -20,6 +20,7 @@
 #include "table/timers.h"
 
 #include <QKeyEvent>
+#include <QSignalSpy>
 #include <QTest>
 #include <algorithm>
 #include <cstdio>
@@ -179,6 +180,30 @@ TEST_F(ShellTest, SoloPlayAndMenuAndTheRecordScreenMoveBetweenTheModes) {
     EXPECT_FALSE(shown(window->picScore()));
     EXPECT_EQ(kModeRecords, g.gameMode) << "until the mouse crosses the menu";
     EXPECT_EQ(kSceneMenu, g.bgmScene);
+}
+
+// The mouse as the window system delivers it: to whatever control stands on top at that point.
+TEST_F(ShellTest, TheWholeExitPictureLightsAndQuitsAndTheCreditLinesAroundItOpenTheHelp) {
+    QWindow* screenWindow = window->windowHandle();
+    ASSERT_NE(screenWindow, nullptr);
+    QSignalSpy quits(window.get(), &MainWindow::exitRequested);
+    // Its top row, its middle on the first credit line, its foot on the second.
+    const std::array<QPoint, 4> onExit{QPoint(458, 329), QPoint(491, 344), QPoint(462, 360),
+                                       QPoint(524, 366)};
+    int expectedQuits = 0;
+    for (QPoint at : onExit) {
+        QTest::mouseMove(screenWindow, QPoint(300, 250));
+        QTest::mouseMove(screenWindow, at);
+        EXPECT_TRUE(g.controls.menuPicLit[kPicExit]) << "lit at " << at.x() << ", " << at.y();
+        QTest::mouseClick(screenWindow, Qt::LeftButton, {}, at);
+        EXPECT_EQ(++expectedQuits, quits.count()) << "quit at " << at.x() << ", " << at.y();
+    }
+    EXPECT_EQ(0, helpScreen->helpOpened);
+
+    for (QPoint at : {QPoint(150, 344), QPoint(268, 360), QPoint(454, 345), QPoint(530, 350)})
+        QTest::mouseClick(screenWindow, Qt::LeftButton, {}, at);
+    EXPECT_EQ(4, helpScreen->helpOpened);
+    EXPECT_EQ(expectedQuits, quits.count());
 }
 
 TEST_F(ShellTest, F2StartsAGameAndF1OpensTheHelpThoughNoMenuShows) {
