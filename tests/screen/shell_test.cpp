@@ -20,6 +20,7 @@
 #include "table/timers.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 #include <algorithm>
@@ -204,6 +205,44 @@ TEST_F(ShellTest, TheWholeExitPictureLightsAndQuitsAndTheCreditLinesAroundItOpen
         QTest::mouseClick(screenWindow, Qt::LeftButton, {}, at);
     EXPECT_EQ(4, helpScreen->helpOpened);
     EXPECT_EQ(expectedQuits, quits.count());
+}
+
+// Right clicks one after another, some while the pop-up is still open: each opens it where it
+// fell, on the menu and on the game off the table; on the table the right button aims instead.
+TEST_F(ShellTest, EveryRightClickOffTheTableOpensTheGamesMenuWhereItFell) {
+    QWindow* screenWindow = window->windowHandle();
+    QMenu* popup = window->hiddenMenu()->popup();
+    // A menu that holds the caller until it closes would hold this test: close it after a while.
+    bool heldTheCaller = false;
+    QTimer watchdog;
+    watchdog.setSingleShot(true);
+    QObject::connect(&watchdog, &QTimer::timeout, [&] {
+        heldTheCaller = true;
+        popup->close();
+    });
+    const auto rightClickAt = [&](QPoint at) {
+        watchdog.start(2000);
+        QTest::mouseClick(screenWindow, Qt::RightButton, {}, at);
+        QCoreApplication::processEvents();
+        const bool open = !heldTheCaller && popup->isVisible() &&
+                          popup->geometry().topLeft() == screenWindow->mapToGlobal(at);
+        watchdog.stop();
+        return open;
+    };
+    for (QPoint at : {QPoint(100, 250), QPoint(300, 200), QPoint(60, 300), QPoint(420, 40)})
+        EXPECT_TRUE(rightClickAt(at)) << "on the menu at " << at.x() << ", " << at.y();
+    QTest::keyClick(popup, Qt::Key_Escape);
+    EXPECT_FALSE(popup->isVisible());
+
+    moveOver(menu().picture(kPicSoloPlay, 0));
+    click(menu().picture(kPicSoloPlay, 1));
+    ASSERT_EQ(kModeSolo, g.gameMode);
+    EXPECT_TRUE(rightClickAt(QPoint(100, 12))) << "on the information bar";
+    EXPECT_TRUE(rightClickAt(QPoint(480, 350))) << "on the tray";
+    QTest::mouseClick(screenWindow, Qt::RightButton, {}, QPoint(270, 150));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(popup->isVisible()) << "a right click on the table only closes it";
+    EXPECT_FALSE(rightClickAt(QPoint(270, 150))) << "on the table the right button aims";
 }
 
 TEST_F(ShellTest, F2StartsAGameAndF1OpensTheHelpThoughNoMenuShows) {
