@@ -7,7 +7,6 @@
 #include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
 #include "screen/forms/version_form.h"
-#include "screen/help_page.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
 #include "screen/table_drawing.h"
@@ -121,12 +120,17 @@ void QtScreen::showPlainMessage(const std::string& text) {
     runModal(box, nullptr);
 }
 
-} // namespace morvane
-
-namespace morvane {
-
 void QtScreen::openHelp() {
-    openHelpPage();
+    const QString page = helpPagePath();
+    helpOpener(QUrl::fromLocalFile(page), [this, page] { showHelpWindow(page); });
+}
+
+void QtScreen::showHelpWindow(const QString& page) {
+    if (!helpWindow_)
+        helpWindow_ = new HelpWindow(page, g_.isJapanese);
+    helpWindow_->show();
+    helpWindow_->raise();
+    helpWindow_->activateWindow();
 }
 
 } // namespace morvane

@@ -2,6 +2,7 @@
 // message box, on Qt surfaces and widgets.
 #pragma once
 
+#include "screen/help_page.h"
 #include "screen/surfaces.h"
 #include "table/game_state.h"
 
@@ -33,6 +34,10 @@ class QtScreen : public ScreenPort {
     std::function<void(QDialog&)> onMessageBox;
     // Called with each of the other modal forms just before it runs.
     std::function<void(QDialog&)> onForm;
+    // Where the help page goes first; a test may give one that fails.
+    PageOpener helpOpener = openWithDesktop;
+    // The game's own window for the help page, while it is open.
+    HelpWindow* helpWindow() const { return helpWindow_; }
 
     void drawTable() override;
     void drawBallNow(int ball) override;
@@ -53,6 +58,8 @@ class QtScreen : public ScreenPort {
   private:
     // The view has changed: at rest it shows at the next paint, during a shot at once.
     void viewChanged();
+    // The help page in the game's own window, for a desktop that can't show it.
+    void showHelpWindow(const QString& page);
     // Holds the caller until the form has closed; the timers tick on under it.
     void runModal(QDialog& form, const std::function<void(QDialog&)>& beforeRunning);
 
@@ -62,6 +69,7 @@ class QtScreen : public ScreenPort {
     ScreenWidgets widgets_;
     bool viewDirty_ = false;
     int modalFormsShown_ = 0;
+    QPointer<HelpWindow> helpWindow_;
 };
 
 } // namespace morvane
