@@ -1,6 +1,7 @@
 #include "form_pictures.h"
 
 #include "ball_art.h"
+#include "game/version.h"
 #include "text_art.h"
 
 #include <QLinearGradient>
@@ -52,15 +53,15 @@ void paintCredits(QPainter& p) {
     p.setPen(kCredit);
     p.setFont(gameFont(11, true));
     p.drawText(QRect(0, 140, kOpeningWidth, 14), Qt::AlignCenter,
-               QStringLiteral("Ver.3.02  Program by zeph"));
+               QString("Ver.%1  Program by zeph").arg(morvane::kVersion));
     p.drawText(QRect(0, 153, kOpeningWidth, 14), Qt::AlignCenter,
                QStringLiteral("BGMs by lirra 1998"));
 }
 
 } // namespace
 
-QImage openingPicture() {
-    QImage image(kOpeningWidth, kOpeningHeight, QImage::Format_RGB32);
+QImage openingPicture(int scale) {
+    QImage image = filledPicture(kOpeningWidth, kOpeningHeight, Qt::black, scale);
     {
         QPainter p(&image);
         p.setRenderHint(QPainter::Antialiasing);
@@ -76,8 +77,8 @@ QImage openingPicture() {
     return image;
 }
 
-QImage zephFace(int frame) {
-    QImage face = filledPicture(kFaceSize, kFaceSize, Qt::black);
+QImage zephFace(int frame, int scale) {
+    QImage face = filledPicture(kFaceSize, kFaceSize, Qt::black, scale);
     {
         // Flat colours without smoothing: the face is drawn as a small pixel picture.
         QPainter p(&face);
@@ -112,16 +113,16 @@ QImage zephFace(int frame) {
     return face;
 }
 
-QImage zephFrames() {
-    QImage strip(kFaceSize * kZephFrameCount, kFaceSize, QImage::Format_RGB32);
+QImage zephFrames(int scale) {
+    QImage strip = filledPicture(kFaceSize * kZephFrameCount, kFaceSize, Qt::black, scale);
     QPainter p(&strip);
     for (int f = 0; f < kZephFrameCount; ++f)
-        p.drawImage(kFaceSize * f, 0, zephFace(f));
+        p.drawImage(kFaceSize * f, 0, zephFace(f, scale));
     return strip;
 }
 
-QImage buttonPicture(const QString& caption) {
-    QImage image = filledPicture(kButtonWidth, kButtonHeight, Qt::black);
+QImage buttonPicture(const QString& caption, int scale) {
+    QImage image = filledPicture(kButtonWidth, kButtonHeight, Qt::black, scale);
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     QLinearGradient face(0, 0, 0, kButtonHeight);
@@ -133,7 +134,7 @@ QImage buttonPicture(const QString& caption) {
     p.drawRoundedRect(QRectF(1, 1, kButtonWidth - 2, kButtonHeight - 2), 6, 6);
     p.setPen(QColor(0, 255, 0));
     p.setFont(gameFont(caption.size() > 2 ? 15 : 18, true));
-    p.drawText(image.rect(), Qt::AlignCenter, caption);
+    p.drawText(drawingArea(image), Qt::AlignCenter, caption);
     return image;
 }
 

@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
     build-essential cmake ninja-build pkg-config ccache
-    qt6-base-dev libsdl2-mixer-dev nlohmann-json3-dev
+    qt6-base-dev libsdl2-mixer-dev libfluidsynth-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     timgm6mb-soundfont fonts-liberation fonts-ipafont-gothic
     xvfb xauth xdg-utils xdotool imagemagick openbox

@@ -1,7 +1,7 @@
 #include "rules/nearly_cleared_table.h"
 
 #include "rules/next_shot.h"
-#include "table/timers.h"
+#include "game/timers.h"
 
 namespace morvane {
 

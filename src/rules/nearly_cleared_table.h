@@ -4,7 +4,7 @@
 // only when MORVANE_NEARLY_CLEARED is set; the journey test under Xvfb plays through it.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -4,8 +4,8 @@
 // A right click outside the open pop-up closes it and opens it afresh where that click fell.
 #pragma once
 
+#include "game/game_state.h"
 #include "startup/menu_captions.h"
-#include "table/game_state.h"
 
 #include <QAction>
 #include <QMenu>

@@ -2,9 +2,9 @@
 // message box, on Qt surfaces and widgets.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/help_page.h"
 #include "screen/surfaces.h"
-#include "table/game_state.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -2,7 +2,7 @@
 // the game aims by itself ends the game.
 #include "rules/nearly_cleared_table.h"
 #include "rules_fixture.h"
-#include "table/table_queries.h"
+#include "game/table_queries.h"
 
 using namespace morvane;
 using namespace morvane::testing;

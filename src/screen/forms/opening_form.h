@@ -3,7 +3,7 @@
 // shows the main window. It is shown without waiting.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <QImage>
 #include <QTimer>
@@ -18,10 +18,6 @@ constexpr int kOpeningTickMs = 1000;
 // The counter stands at this on the tick that closes the splash.
 constexpr int kOpeningLastCount = 5;
 inline constexpr const char* kOpeningFile256 = "mvopn256.bmp";
-
-// A picture file looked for in the current folder and then beside the program; null if neither
-// holds a readable one.
-QImage loadPictureFile(const QString& fileName);
 
 class OpeningForm : public QWidget {
     Q_OBJECT

@@ -1,0 +1,79 @@
+#include "game/racking.h"
+#include "game/table_queries.h"
+#include "table/geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace morvane;
+
+TEST(Rack, StandsEveryBallAtItsStartPointToTheBit) {
+    GameState g;
+    rackBalls(g);
+    const float expected[10][2] = {
+        {600, 600},
+        {1790, 600},
+        {1963.205078125f, 500},
+        {2136.41015625f, 600},
+        {1963.205078125f, 700},
+        {1874.6025390625f, 652},
+        {1874.6025390625f, 548},
+        {2049.8076171875f, 550},
+        {2049.8076171875f, 650},
+        {1963.205078125f, 600},
+    };
+    for (int n = 0; n < kBallCount; ++n) {
+        EXPECT_EQ(g.Balls[n].x, expected[n][0]) << "ball " << n;
+        EXPECT_EQ(g.Balls[n].y, expected[n][1]) << "ball " << n;
+        EXPECT_TRUE(g.Balls[n].onTable);
+        EXPECT_EQ(g.Balls[n].speed, 0);
+        EXPECT_EQ(g.Balls[n].prevX, g.Balls[n].x);
+        EXPECT_EQ(g.Balls[n].prevY, g.Balls[n].y);
+    }
+    EXPECT_EQ(g.aimX, 1790);
+    EXPECT_EQ(g.aimY, 600);
+}
+
+TEST(Rack, ClearsMotionAndSpinLeftFromTheLastGame) {
+    GameState g;
+    g.Balls[3] = {1, 2, 3, 4, 5, 6, 7, 8, 0, false, 900, 1, 300, 200};
+    rackBalls(g);
+    const BallType& b = g.Balls[3];
+    EXPECT_EQ(b.vx, 0);
+    EXPECT_EQ(b.vy, 0);
+    EXPECT_EQ(b.spareA, 0);
+    EXPECT_EQ(b.angle, 0);
+    EXPECT_EQ(b.spinFollow, 0);
+    EXPECT_EQ(b.spinSide, 0);
+    EXPECT_EQ(getPocketedString(g), "000000000");
+    EXPECT_EQ(getLowestBall(g), 1);
+}
+
+TEST(Helpers, GetAngleFollowsTheQuadrantsWithTheGamesPi) {
+    EXPECT_EQ(getAngle(0, 0, 0, 5), float(3.1415926 / 2));
+    EXPECT_EQ(getAngle(0, 0, 0, -5), float(-3.1415926 / 2));
+    EXPECT_EQ(getAngle(0, 0, -5, 0), float(3.1415926));
+    EXPECT_EQ(getAngle(3, 4, 3, 4), 0);
+    EXPECT_FLOAT_EQ(getAngle(0, 0, -1, 1), float(std::atan(-1.0) + 3.1415926));
+    EXPECT_FLOAT_EQ(getAngle(0, 0, -1, -1), float(std::atan(1.0) - 3.1415926));
+    EXPECT_FLOAT_EQ(getAngle(0, 0, 1, -1), float(std::atan(-1.0)));
+}
+
+TEST(Helpers, GetCushionFacingNamesTheCushionAhead) {
+    const PointType centre{1200, 600};
+    EXPECT_EQ(getCushionFacing(centre, {1200, 900}), kCushionTop);
+    EXPECT_EQ(getCushionFacing(centre, {1200, 100}), kCushionBottom);
+    EXPECT_EQ(getCushionFacing(centre, {100, 650}), kCushionLeft);
+    EXPECT_EQ(getCushionFacing(centre, {2000, 550}), kCushionRight);
+    EXPECT_EQ(getCushionFacing(centre, centre), kCushionRight); // no direction at all
+}
+
+TEST(Helpers, IsSpotBlockedOnlyStrictlyInsideADiameterOfABallInPlay) {
+    GameState g;
+    rackBalls(g);
+    EXPECT_FALSE(isSpotBlocked(g, 500, 600)); // exactly 100 from the cue ball
+    EXPECT_TRUE(isSpotBlocked(g, 500.5f, 600));
+    g.Balls[0].onTable = false;
+    EXPECT_FALSE(isSpotBlocked(g, 550, 600));
+}
