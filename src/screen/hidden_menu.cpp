@@ -1,10 +1,14 @@
 #include "screen/hidden_menu.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QTimer>
 #include <QWidget>
 
 namespace morvane {
 
-HiddenMenu::HiddenMenu(QWidget* window) : QObject(window), popup_(window) {
+HiddenMenu::HiddenMenu(QWidget* window) : QObject(window), window_(window), popup_(window) {
     mnuGame_ = popup_.addMenu(QString());
     mnuStart = mnuGame_->addAction(QString());
     mnuStart->setShortcut(QKeySequence(Qt::Key_F2));
@@ -29,6 +33,46 @@ HiddenMenu::HiddenMenu(QWidget* window) : QObject(window), popup_(window) {
     // The shortcuts work on the window though no menu shows.
     for (QAction* action : {mnuStart, mnuHelpCont})
         window->addAction(action);
+    for (QMenu* menu : tree())
+        menu->installEventFilter(this);
+}
+
+void HiddenMenu::popUpAt(QPoint globalPos) {
+    popup_.popup(globalPos);
+}
+
+std::array<QMenu*, 4> HiddenMenu::tree() {
+    return {&popup_, mnuGame_, mnuOption_, mnuHelp_};
+}
+
+// While the pop-up is open it takes every press; one outside it closes it.
+bool HiddenMenu::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonPress)
+        return false;
+    const auto* press = static_cast<QMouseEvent*>(event);
+    const QPoint at = press->globalPosition().toPoint();
+    if (press->button() == Qt::RightButton && !anyMenuContains(at))
+        QTimer::singleShot(0, this, [this, at] { rightClickAgainAt(at); });
+    return false;
+}
+
+bool HiddenMenu::anyMenuContains(QPoint globalPos) {
+    for (const QMenu* menu : tree()) {
+        if (menu->isVisible() && menu->geometry().contains(globalPos))
+            return true;
+    }
+    return false;
+}
+
+void HiddenMenu::rightClickAgainAt(QPoint globalPos) {
+    const QPoint local = window_->mapFromGlobal(globalPos);
+    if (popup_.isVisible() || !window_->isVisible() || !window_->rect().contains(local))
+        return;
+    QWidget* target = window_->childAt(local);
+    if (!target)
+        target = window_;
+    QContextMenuEvent again(QContextMenuEvent::Mouse, target->mapFromGlobal(globalPos), globalPos);
+    QApplication::sendEvent(target, &again);
 }
 
 void HiddenMenu::setMenuCaptions(const MenuCaptions& c) {

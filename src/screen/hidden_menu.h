@@ -1,6 +1,7 @@
 // The menu tree of the window. No menu bar shows it: its entries are actions of the window, so
 // F2 (Start) and F1 (Help contents) work on every screen, and a right click on the window (off the
 // table and the ball picture, where the right button plays) opens the whole tree as a pop-up.
+// A right click outside the open pop-up closes it and opens it afresh where that click fell.
 #pragma once
 
 #include "game/game_state.h"
@@ -9,6 +10,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QObject>
+#include <array>
 
 namespace morvane {
 
@@ -21,6 +23,8 @@ class HiddenMenu : public QObject {
     void syncFromState(const ControlsState& c);
     // The tree as one pop-up menu.
     QMenu* popup() { return &popup_; }
+    // Opens the pop-up at a point of the screen without waiting for it to close.
+    void popUpAt(QPoint globalPos);
 
     QAction* mnuStart = nullptr;
     QAction* mnuRetry = nullptr;
@@ -34,7 +38,17 @@ class HiddenMenu : public QObject {
     QAction* mnuKey = nullptr;
     QAction* mnuAbout = nullptr;
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
+    // The pop-up and its three submenus.
+    std::array<QMenu*, 4> tree();
+    bool anyMenuContains(QPoint globalPos);
+    // The right click that closed the pop-up, as the window's own right click there.
+    void rightClickAgainAt(QPoint globalPos);
+
+    QWidget* window_;
     QMenu popup_;
     QMenu* mnuGame_ = nullptr;
     QMenu* mnuOption_ = nullptr;

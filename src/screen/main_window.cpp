@@ -232,7 +232,7 @@ void MainWindow::connectHiddenMenu() {
 }
 
 void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
-    menu_->popup()->exec(event->globalPos());
+    menu_->popUpAt(event->globalPos());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

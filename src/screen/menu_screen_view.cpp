@@ -86,9 +86,11 @@ void HoverPicture::mouseDoubleClickEvent(QMouseEvent* event) {
 
 MenuScreen::MenuScreen(QWidget* parent) : HoverPicture(scaledPicture(pictures::kMenu), parent) {
     setGeometry(kMenuArea);
+    // Pictures stand above labels: the Exit picture lies over the credit lines, and the whole of
+    // it takes the mouse. Children made later stand higher.
+    createLabels();
     createWordPictures();
     createSwitches();
-    createLabels();
 }
 
 void MenuScreen::createWordPictures() {

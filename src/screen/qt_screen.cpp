@@ -2,12 +2,12 @@
 
 #include "picture_names.h"
 #include "screen/blit.h"
+#include "screen/forms/form_parts.h"
 #include "screen/forms/match_form.h"
 #include "screen/forms/name_form.h"
 #include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
 #include "screen/forms/version_form.h"
-#include "screen/help_page.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
 #include "screen/pictures.h"
@@ -57,6 +57,7 @@ void QtScreen::runModal(QDialog& form, const std::function<void(QDialog&)>& befo
     ++modalFormsShown_;
     if (beforeRunning)
         beforeRunning(form);
+    const HeldKeyGuard heldKeys(form);
     form.exec();
 }
 
@@ -97,12 +98,17 @@ void QtScreen::showPlainMessage(const std::string& text) {
     runModal(box, nullptr);
 }
 
-} // namespace morvane
-
-namespace morvane {
-
 void QtScreen::openHelp() {
-    openHelpPage();
+    const QString page = helpPagePath();
+    helpOpener(QUrl::fromLocalFile(page), [this, page] { showHelpWindow(page); });
+}
+
+void QtScreen::showHelpWindow(const QString& page) {
+    if (!helpWindow_)
+        helpWindow_ = new HelpWindow(page, g_.isJapanese);
+    helpWindow_->show();
+    helpWindow_->raise();
+    helpWindow_->activateWindow();
 }
 
 } // namespace morvane

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "game/game_state.h"
+#include "screen/help_page.h"
 #include "screen/surfaces.h"
 
 #include <QPointer>
@@ -38,6 +39,10 @@ class QtScreen : public ScreenPort {
     std::function<void(QDialog&)> onMessageBox;
     // Called with each of the other modal forms just before it runs.
     std::function<void(QDialog&)> onForm;
+    // Where the help page goes first; a test may give one that fails.
+    PageOpener helpOpener = openWithDesktop;
+    // The game's own window for the help page, while it is open.
+    HelpWindow* helpWindow() const { return helpWindow_; }
 
     void drawTable() override;
     void drawBallNow(int ball) override;
@@ -55,6 +60,8 @@ class QtScreen : public ScreenPort {
     void openHelp() override;
 
   private:
+    // The help page in the game's own window, for a desktop that can't show it.
+    void showHelpWindow(const QString& page);
     // Holds the caller until the form has closed; the timers tick on under it.
     void runModal(QDialog& form, const std::function<void(QDialog&)>& beforeRunning);
 
@@ -63,6 +70,7 @@ class QtScreen : public ScreenPort {
     QImage okPicture_;
     ScreenWidgets widgets_;
     int modalFormsShown_ = 0;
+    QPointer<HelpWindow> helpWindow_;
 };
 
 } // namespace morvane

@@ -11,12 +11,17 @@
 #include "rules/game_over.h"
 #include "rules/scenes.h"
 #include "screen/forms/match_form.h"
+#include "screen/forms/name_form.h"
 #include "screen/forms/opening_form.h"
+#include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
 #include "screen/qt_startup.h"
 #include "startup/form_load.h"
 #include "support/temp_home.h"
 
+#include <QKeyEvent>
+#include <QMenu>
+#include <QSignalSpy>
 #include <QTest>
 #include <algorithm>
 #include <cstdio>
@@ -185,6 +190,68 @@ TEST_F(ShellTest, SoloPlayAndMenuAndTheRecordScreenMoveBetweenTheModes) {
     EXPECT_EQ(kSceneMenu, g.bgmScene);
 }
 
+// The mouse as the window system delivers it: to whatever control stands on top at that point.
+TEST_F(ShellTest, TheWholeExitPictureLightsAndQuitsAndTheCreditLinesAroundItOpenTheHelp) {
+    QWindow* screenWindow = window->windowHandle();
+    ASSERT_NE(screenWindow, nullptr);
+    QSignalSpy quits(window.get(), &MainWindow::exitRequested);
+    // Its top row, its middle on the first credit line, its foot on the second.
+    const std::array<QPoint, 4> onExit{QPoint(458, 329), QPoint(491, 344), QPoint(462, 360),
+                                       QPoint(524, 366)};
+    int expectedQuits = 0;
+    for (QPoint at : onExit) {
+        QTest::mouseMove(screenWindow, QPoint(300, 250));
+        QTest::mouseMove(screenWindow, at);
+        EXPECT_TRUE(g.controls.menuPicLit[kPicExit]) << "lit at " << at.x() << ", " << at.y();
+        QTest::mouseClick(screenWindow, Qt::LeftButton, {}, at);
+        EXPECT_EQ(++expectedQuits, quits.count()) << "quit at " << at.x() << ", " << at.y();
+    }
+    EXPECT_EQ(0, helpScreen->helpOpened);
+
+    for (QPoint at : {QPoint(150, 344), QPoint(268, 360), QPoint(454, 345), QPoint(530, 350)})
+        QTest::mouseClick(screenWindow, Qt::LeftButton, {}, at);
+    EXPECT_EQ(4, helpScreen->helpOpened);
+    EXPECT_EQ(expectedQuits, quits.count());
+}
+
+// Right clicks one after another, some while the pop-up is still open: each opens it where it
+// fell, on the menu and on the game off the table; on the table the right button aims instead.
+TEST_F(ShellTest, EveryRightClickOffTheTableOpensTheGamesMenuWhereItFell) {
+    QWindow* screenWindow = window->windowHandle();
+    QMenu* popup = window->hiddenMenu()->popup();
+    // A menu that holds the caller until it closes would hold this test: close it after a while.
+    bool heldTheCaller = false;
+    QTimer watchdog;
+    watchdog.setSingleShot(true);
+    QObject::connect(&watchdog, &QTimer::timeout, [&] {
+        heldTheCaller = true;
+        popup->close();
+    });
+    const auto rightClickAt = [&](QPoint at) {
+        watchdog.start(2000);
+        QTest::mouseClick(screenWindow, Qt::RightButton, {}, at);
+        QCoreApplication::processEvents();
+        const bool open = !heldTheCaller && popup->isVisible() &&
+                          popup->geometry().topLeft() == screenWindow->mapToGlobal(at);
+        watchdog.stop();
+        return open;
+    };
+    for (QPoint at : {QPoint(100, 250), QPoint(300, 200), QPoint(60, 300), QPoint(420, 40)})
+        EXPECT_TRUE(rightClickAt(at)) << "on the menu at " << at.x() << ", " << at.y();
+    QTest::keyClick(popup, Qt::Key_Escape);
+    EXPECT_FALSE(popup->isVisible());
+
+    moveOver(menu().picture(kPicSoloPlay, 0));
+    click(menu().picture(kPicSoloPlay, 1));
+    ASSERT_EQ(kModeSolo, g.gameMode);
+    EXPECT_TRUE(rightClickAt(QPoint(100, 12))) << "on the information bar";
+    EXPECT_TRUE(rightClickAt(QPoint(480, 350))) << "on the tray";
+    QTest::mouseClick(screenWindow, Qt::RightButton, {}, QPoint(270, 150));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(popup->isVisible()) << "a right click on the table only closes it";
+    EXPECT_FALSE(rightClickAt(QPoint(270, 150))) << "on the table the right button aims";
+}
+
 TEST_F(ShellTest, F2StartsAGameAndF1OpensTheHelpThoughNoMenuShows) {
     window->activateWindow();
     QTest::keyClick(window.get(), Qt::Key_F1);
@@ -251,6 +318,64 @@ TEST_F(ShellTest, ASoloGameThatEarnsAPlaceOpensTheRecordScreenWithItsRowInMagent
     click(window->picScore(), {200, 200});
     EXPECT_FALSE(shown(window->picScore()));
     EXPECT_EQ(kModeSolo, g.gameMode) << "the fresh table behind it shows again";
+}
+
+// The X server repeats a held key as a release and a press that share one time stamp, to the
+// window that has the focus; Qt flags some of them as repeats and not others.
+void repeatHeldKey(QWidget* receiver, Qt::Key key, quint64 stamp) {
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+    release.setTimestamp(stamp);
+    QApplication::sendEvent(receiver, &release);
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    press.setTimestamp(stamp);
+    QApplication::sendEvent(receiver, &press);
+    qt_handleKeyEvent(receiver->window()->windowHandle(), QEvent::KeyPress, key, Qt::NoModifier,
+                      QString(), true);
+}
+
+// "Your Record" closed by Escape held a little too long, or by a click whose release reaches the
+// form after it: the name form that follows waits, its focus in the box, for the typed name.
+TEST_F(ShellTest, TheNameFormAfterTheRecordFormWaitsForTheNameHoweverTheRecordFormClosed) {
+    moveOver(menu().picture(kPicSoloPlay, 0));
+    click(menu().picture(kPicSoloPlay, 1));
+    g.turnCount = 2;
+    g.shotCount = 12;
+    g.gameSeconds = 95;
+    bool waited = false;
+    bool focusInBox = false;
+    QString afterBackspace;
+    screen->onForm = [&](QDialog& form) {
+        if (auto* record = qobject_cast<RecordForm*>(&form)) {
+            QTimer::singleShot(
+                0, record, [record] { QTest::keyPress(record->windowHandle(), Qt::Key_Escape); });
+            return;
+        }
+        auto* name = qobject_cast<NameForm*>(&form);
+        ASSERT_NE(name, nullptr);
+        QTimer::singleShot(0, name, [&, name] {
+            for (quint64 stamp : {700u, 740u, 780u})
+                repeatHeldKey(name->focusWidget(), Qt::Key_Escape, stamp);
+            QTest::keyRelease(name->windowHandle(), Qt::Key_Escape);
+            QTest::mouseRelease(name->picOK(), Qt::LeftButton); // its press was on "Your Record"
+            waited = name->isVisible();
+            focusInBox = name->focusWidget() == name->txtName();
+            if (!waited)
+                return;
+            QTest::keyClicks(name->txtName(), "Annx");
+            // A key pressed in the form repeats as ever.
+            QTest::keyPress(name->windowHandle(), Qt::Key_Backspace);
+            repeatHeldKey(name->txtName(), Qt::Key_Backspace, 900);
+            afterBackspace = name->txtName()->text();
+            QTest::keyClicks(name->txtName(), "e");
+            QTest::keyClick(name->windowHandle(), Qt::Key_Return);
+        });
+    };
+    endGame(g);
+    EXPECT_TRUE(waited) << "the name form closed by itself";
+    EXPECT_TRUE(focusInBox);
+    EXPECT_EQ(QString("A"), afterBackspace);
+    EXPECT_EQ("Ae                  ", g.soloRecords[1].Name);
+    EXPECT_EQ(11, g.soloRecords[1].place);
 }
 
 // A whole match against zeph at level 1, the person's shots chosen by zeph's own logic at level 1

@@ -2,9 +2,11 @@
 
 #include "screen/message_box.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
+#include <utility>
 
 namespace morvane {
 
@@ -28,9 +30,57 @@ void PictureButton::placeAt(int leftTwips, int topTwips) {
     move(twipsToPixels(leftTwips), twipsToPixels(topTwips));
 }
 
+void PictureButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        pressed_ = true;
+}
+
 void PictureButton::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    if (event->button() != Qt::LeftButton)
+        return;
+    const bool pressedHere = std::exchange(pressed_, false);
+    if (pressedHere && rect().contains(event->position().toPoint()))
         emit clicked();
+}
+
+namespace {
+constexpr quint64 kNoRelease = ~quint64(0);
+}
+
+HeldKeyGuard::HeldKeyGuard(QWidget& form) : form_(form) {
+    qApp->installEventFilter(this);
+}
+
+HeldKeyGuard::~HeldKeyGuard() {
+    qApp->removeEventFilter(this);
+}
+
+// The X server repeats a held key as a release and a press with one time stamp, and Qt doesn't
+// always flag them as repeats. A release of a key the form never saw pressed means the key was
+// down before the form opened; a press stamped with that very release's time is its repeat.
+bool HeldKeyGuard::eventFilter(QObject* watched, QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    // A key goes first to the widget with the focus, then up through its parents: look at it once.
+    const QWidget* firstReceiver = form_.focusWidget() ? form_.focusWidget() : &form_;
+    if (!isKey || watched != firstReceiver)
+        return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const int k = key->key();
+    if (event->type() == QEvent::KeyRelease) {
+        if (!pressedHere_.contains(k))
+            heldReleasedAt_.insert(k, key->timestamp());
+        else if (!key->isAutoRepeat())
+            pressedHere_.remove(k);
+        return false;
+    }
+    const bool repeatOfHeldKey = key->isAutoRepeat()
+                                     ? !pressedHere_.contains(k)
+                                     : heldReleasedAt_.value(k, kNoRelease) == key->timestamp();
+    if (repeatOfHeldKey)
+        return true;
+    pressedHere_.insert(k);
+    heldReleasedAt_.remove(k);
+    return false;
 }
 
 void setUpForm(QDialog& form, const QString& caption, QSize innerSizeTwips) {

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <QDialog>
+#include <QHash>
 #include <QImage>
 #include <QLabel>
 #include <QRect>
+#include <QSet>
 
 namespace morvane {
 
@@ -21,7 +23,8 @@ constexpr int kPictureButtonHeightTwips = 510;
 QRect twipsRect(int left, int top, int width, int height);
 QSize twipsSize(int width, int height);
 
-// A picture that acts as a button: a click on it, released over it, runs clicked. It takes the
+// A picture that acts as a button: a left press on it, released over it, runs clicked; a release
+// whose press it never saw (one that closed the form before this one) does nothing. It takes the
 // size of OK and Cancel unless told otherwise.
 class PictureButton : public QLabel {
     Q_OBJECT
@@ -34,7 +37,28 @@ class PictureButton : public QLabel {
     void clicked();
 
   protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    bool pressed_ = false;
+};
+
+// While a form is up: a key that was already held down when it opened, such as the Escape that
+// closed the form before it, repeats on its own, and those repeats don't reach the form. Let go
+// and pressed again, the key works as ever, its repeats too.
+class HeldKeyGuard : public QObject {
+  public:
+    explicit HeldKeyGuard(QWidget& form);
+    ~HeldKeyGuard() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QWidget& form_;
+    QSet<int> pressedHere_;
+    QHash<int, quint64> heldReleasedAt_; // keys held from before, by the time of their last release
 };
 
 // A fixed form on black with its caption and its inner size in twips.
