@@ -25,4 +25,6 @@ ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:ha
     ctest --test-dir build-sanitize --output-on-failure -j "$jobs" || status=1
 echo "== The real window under X11 (Xvfb) and Wayland (headless Weston) =="
 bash scripts/smoke-platforms.sh || status=1
+echo "== A player's journey through the real window (Xvfb, openbox, xdotool) =="
+bash scripts/journey.sh || status=1
 exit $status

@@ -1,0 +1,282 @@
+#!/usr/bin/env bash
+# Plays the game as a person would, in the real window under Xvfb with a small window manager
+# (openbox) and real X input from xdotool, in real time:
+#   the splash, the menu, the right-click menu (three times), Solo Play, the break, the shot that
+#   ends the game, "Your Record", the name typed with the keyboard, the record screen with that
+#   name saved, back to the menu, and the lower part of the Exit picture, which must end the
+#   game with status 0.
+# The game is started with MORVANE_NEARLY_CLEARED: once the break is at rest, only the nine and
+# the cue ball stay, lined up so that the shot the game aims by itself sinks the nine.
+# Prints "journey: passed", or "journey: FAILED at <step>" and exits non-zero.
+#
+#   bash scripts/journey.sh [path/to/morvane]
+#
+# MORVANE_JOURNEY_X_DISPLAY (default 17) chooses the display number; MORVANE_JOURNEY_TIMEOUT
+# (default 30) is the longest any one wait may take, in seconds. MORVANE_JOURNEY_OUT names a
+# folder in which the screenshots, the logs and the game's home are left, rather than thrown away.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+game=${1:-$PWD/build/bin/morvane}
+x_display=:${MORVANE_JOURNEY_X_DISPLAY:-17}
+limit=${MORVANE_JOURNEY_TIMEOUT:-30}
+name=Zed
+
+work=${MORVANE_JOURNEY_OUT:-}
+if [ -n "$work" ]; then
+    rm -rf "$work" && mkdir -p "$work"
+else
+    work=$(mktemp -d)
+fi
+server_pid=
+wm_pid=
+game_pid=
+step=start
+
+end_process() {
+    local pid=$1
+    [ -n "$pid" ] || return 0
+    kill "$pid" 2>/dev/null || return 0
+    for _ in $(seq 50); do
+        kill -0 "$pid" 2>/dev/null || break
+        sleep 0.1
+    done
+    kill -9 "$pid" 2>/dev/null || true
+    wait "$pid" 2>/dev/null || true
+}
+
+cleanup() {
+    end_process "$game_pid"
+    end_process "$wm_pid"
+    end_process "$server_pid"
+    [ -n "${MORVANE_JOURNEY_OUT:-}" ] || rm -rf "$work"
+}
+trap cleanup EXIT
+
+fail() {
+    echo "journey: FAILED at $step: $*" >&2
+    for log in "$work"/*.log; do
+        [ -s "$log" ] && { echo "--- $log" >&2; tail -n 20 "$log" >&2; }
+    done
+    exit 1
+}
+
+# Polls a command every tenth of a second until it succeeds; fails after `limit` seconds, or at
+# once if the game has ended by itself.
+wait_for() {
+    local what=$1
+    shift
+    local deadline=$((SECONDS + limit))
+    until "$@"; do
+        if [ -n "$game_pid" ] && ! kill -0 "$game_pid" 2>/dev/null; then
+            fail "the game ended while waiting for $what"
+        fi
+        ((SECONDS < deadline)) || fail "no $what after ${limit} s"
+        sleep 0.1
+    done
+}
+
+# How many pixels of a picture, or of the part WxH+X+Y of it, are exactly the colour.
+pixels_of() {
+    local picture=$1 colour=$2 part=${3:-}
+    convert "$picture" ${part:+-crop "$part" +repage} -alpha off \
+        -fill black +opaque "$colour" -fill white -opaque "$colour" \
+        -format '%[fx:round(mean*w*h)]' info:
+}
+
+# The menu's words in their dim colours: the three modes green, Record and Exit purple, the
+# credit lines cyan.
+menu_drawn() {
+    local picture=$1
+    (($(pixels_of "$picture" '#339966') >= 1200)) &&
+        (($(pixels_of "$picture" '#993366') >= 500)) &&
+        (($(pixels_of "$picture" '#00C0C0') >= 300))
+}
+
+# ---------------------------------------------------------------------------------------------
+step="X server and window manager"
+if [ -e "/tmp/.X11-unix/X${x_display#:}" ] || [ -e "/tmp/.X${x_display#:}-lock" ]; then
+    fail "display $x_display is taken; choose another with MORVANE_JOURNEY_X_DISPLAY"
+fi
+mkdir -m 700 "$work/run"
+mkdir -p "$work/home" "$work/config"
+Xvfb "$x_display" -screen 0 1024x768x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+server_pid=$!
+export DISPLAY=$x_display QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work/run
+unset WAYLAND_DISPLAY
+x_server_ready() { kill -0 "$server_pid" 2>/dev/null && xdotool getdisplaygeometry >/dev/null 2>&1; }
+wait_for "X server on $x_display" x_server_ready
+XDG_CONFIG_HOME=$work/config openbox --sm-disable >"$work/openbox.log" 2>&1 &
+wm_pid=$!
+wm_running() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+wait_for "openbox" wm_running
+
+step=splash
+MORVANE_HOME=$work/home MORVANE_NEARLY_CLEARED=1 SDL_AUDIODRIVER=dummy \
+    "$game" >"$work/game.log" 2>&1 &
+game_pid=$!
+main_window_shown() {
+    window=$(xdotool search --onlyvisible --name '^MORVANE Ver\.' 2>/dev/null | head -1)
+    [ -n "$window" ]
+}
+splash_shown() {
+    splash=$(xdotool search --onlyvisible --class '^morvane$' 2>/dev/null | head -1)
+    [ -n "$splash" ]
+}
+wait_for "splash" splash_shown
+# A click on the splash brings the main window at once.
+main_window_shown || xdotool mousemove --window "$splash" 10 10 click 1 2>/dev/null || true
+wait_for "main window" main_window_shown
+echo "journey: splash, then the main window"
+
+step=menu
+shot=$work/window.png
+grab() { import -window "$window" ${2:+-crop "$2" +repage} "$1" 2>/dev/null; }
+menu_on_screen() { grab "$shot" && menu_drawn "$shot"; }
+wait_for "menu drawn" menu_on_screen
+echo "journey: the menu is drawn"
+
+# Real pointer moves and clicks, in the window's own pixels.
+point_at() { xdotool mousemove --window "$window" "$1" "$2"; }
+click_at() {
+    point_at "$1" "$2"
+    xdotool click "${3:-1}"
+}
+
+# The right-click menu: every right click on the menu's background brings up a pop-up, a
+# window of its own that wasn't there before; Escape closes it. Done at once, before the idle
+# menu starts its demo.
+step="right-click menu"
+# The game's windows on the screen other than the main window (the splash is gone by now).
+other_windows() { xdotool search --onlyvisible --class '^morvane$' 2>/dev/null | grep -vx "$window"; }
+[ -z "$(other_windows)" ] || fail "a window other than the main window is up before the right click"
+popup_shown() { [ -n "$(other_windows)" ]; }
+popup_gone() { ! popup_shown; }
+# A person's pace between one pop-up and the next right click: half a second.
+for try in 1 2 3; do
+    sleep 0.5
+    click_at 300 250 3
+    wait_for "pop-up menu after right click $try" popup_shown
+    xdotool key Escape
+    wait_for "pop-up menu closed by Escape ($try)" popup_gone
+done
+echo "journey: the right-click menu came on each of 3 right clicks"
+
+step="Solo Play"
+solo_play=163x41+16+56
+solo_play_lit() { grab "$work/solo.png" "$solo_play" &&
+    (($(pixels_of "$work/solo.png" '#00FF00') >= 400)); }
+point_at 97 76
+wait_for "Solo Play lit" solo_play_lit
+click_at 97 76
+table_on_screen() { grab "$shot" && (($(pixels_of "$shot" '#339966' "$solo_play") < 50)); }
+wait_for "the table of a solo game" table_on_screen
+echo "journey: Solo Play shows the table"
+
+# The caption of SHOT! is dark when a shot can be played and fades while the balls roll.
+caption_dark_pixels() {
+    grab "$work/caption.png" 125x31+210+334 &&
+        convert "$work/caption.png" -colorspace gray -threshold 30% -negate \
+            -format '%[fx:round(mean*w*h)]' info:
+}
+shot_ready() { (($(caption_dark_pixels) >= 200)); }
+balls_rolling() { (($(caption_dark_pixels) < 50)); }
+# The forms of the game other than the main window; a foul message closes with Escape.
+record_form() { xdotool search --onlyvisible --name '^Your Record$' 2>/dev/null | head -1; }
+close_foul_message() {
+    local box
+    box=$(xdotool search --onlyvisible --name '^Massage from Morvane$' 2>/dev/null | head -1)
+    [ -z "$box" ] && return 0
+    echo "journey: a foul message came up; Escape closes it"
+    xdotool windowactivate --sync "$box" key Escape 2>/dev/null || true
+    return 1
+}
+
+step=break
+table=540x299+0+25
+wait_for "SHOT! ready for the break" shot_ready
+grab "$work/rack.png" "$table"
+click_at 272 349
+wait_for "the balls rolling after the break" balls_rolling
+break_over() { close_foul_message && shot_ready; }
+wait_for "the balls to stop after the break" break_over
+echo "journey: the break was played"
+
+# Once the break is at rest only the nine and the cue ball stay, aimed at the top middle pocket.
+step="the last shot"
+game_over() { [ -n "$(record_form)" ]; }
+nine_shot_or_over() { game_over || { close_foul_message && shot_ready; }; }
+for shot_number in 1 2 3 4 5; do
+    game_over && break
+    wait_for "SHOT! ready (shot $shot_number)" nine_shot_or_over
+    game_over && break
+    click_at 272 349
+    rolling_or_over() { game_over || balls_rolling; }
+    wait_for "the balls rolling (shot $shot_number)" rolling_or_over
+    over_or_ready() { game_over || { close_foul_message && shot_ready; }; }
+    wait_for "the end of shot $shot_number" over_or_ready
+done
+wait_for '"Your Record"' game_over
+echo "journey: the nine fell and \"Your Record\" came up after $shot_number shot(s)"
+
+# "Your Record" closes with a click on its OK picture; the name form comes and must wait for
+# the keyboard, however the form before it was closed.
+step='"Your Record" closed'
+record=$(record_form)
+xdotool mousemove --window "$record" 108 215 click 1
+record_gone() { [ -z "$(record_form)" ]; }
+wait_for '"Your Record" to close' record_gone
+
+step="name form"
+name_form() {
+    name_window=$(xdotool search --onlyvisible --name '^Morvane$' 2>/dev/null | head -1)
+    [ -n "$name_window" ]
+}
+wait_for "the name form" name_form
+# It must stay open by itself: a form that closes on its own saves a name of blanks.
+stay_deadline=$((SECONDS + 2))
+while ((SECONDS < stay_deadline)); do
+    name_form || fail "the name form closed by itself, with no input"
+    sleep 0.1
+done
+name_focused() { [ "$(xdotool getwindowfocus 2>/dev/null)" = "$name_window" ]; }
+wait_for "the keyboard focus on the name form" name_focused
+xdotool type --delay 60 "$name"
+xdotool key Return
+name_form_gone() { ! name_form; }
+wait_for "the name form to close after Enter" name_form_gone
+echo "journey: the name \"$name\" was typed and the name form closed with Enter"
+
+step="record screen"
+scores=$work/home/MVSCORE.INI
+padded=$(printf '%-20s' "$name")
+name_saved() { grep -qx "Name01=$padded" "$scores" 2>/dev/null; }
+wait_for "Name01=\"$padded\" in $scores" name_saved
+# The record screen: the new row, first of the solo table, has its name lit in magenta, the
+# rows below it in green.
+first_name=80x16+30+26
+second_name=80x16+30+46
+record_screen() {
+    grab "$shot" && (($(pixels_of "$shot" '#FF00FF' "$first_name") >= 40)) &&
+        (($(pixels_of "$shot" '#00FF00' "$second_name") >= 40))
+}
+wait_for "the record screen" record_screen
+grab "$work/record-screen.png"
+echo "journey: the row was saved with the name \"$name\" and the record screen is shown"
+
+# Menu at the top right goes back to the menu; the Exit picture ends the game, on its lower
+# part too, below the credit lines' tops.
+step="back to the menu"
+click_at 500 12
+point_at 300 250
+wait_for "menu after the record screen" menu_on_screen
+
+step="Exit picture"
+click_at 491 348
+game_ended() { ! kill -0 "$game_pid" 2>/dev/null; }
+wait_for "the end of the game after Exit (20 px below the picture's top)" game_ended
+status=0
+wait "$game_pid" || status=$?
+game_pid=
+[ "$status" -eq 0 ] || fail "the game ended with status $status"
+echo "journey: passed"
