@@ -110,6 +110,28 @@ TEST_F(EndOfGameFormsTest, TheRecordMidGameIsABreakWithTheBallsDownSoFar) {
     EXPECT_EQ("GAME FINISHED!!", recordTitle(g));
 }
 
+// "GAME FINISHED!!" in Arial of 20 points is wider than the 217-pixel form: the caption shrinks
+// until all of its ink lies inside the form, in either language and at either scale.
+TEST_F(EndOfGameFormsTest, TheRecordsCaptionFitsTheFormAtEitherLanguageAndScale) {
+    for (int i = 1; i <= 9; ++i)
+        g.Balls[i].onTable = i != 9;
+    for (const bool japanese : {false, true}) {
+        for (const int scale : {1, 2}) {
+            SCOPED_TRACE(::testing::Message() << "japanese " << japanese << ", scale " << scale);
+            g.isJapanese = japanese;
+            QImage balls(600 * scale, 300 * scale, QImage::Format_RGB32);
+            balls.fill(Qt::black);
+            balls.setDevicePixelRatio(scale);
+            RecordForm form(g, balls, balls.copy(0, 0, 60 * scale, 20 * scale));
+            const QString title = QString::fromStdString(recordTitle(g));
+            const QRect ink = QFontMetrics(form.titleFont()).boundingRect(title);
+            EXPECT_GE(form.titleLeft() + ink.left(), 0);
+            EXPECT_LE(form.titleLeft() + ink.right(), form.width() - 1);
+            EXPECT_GE(form.titleFont().pixelSize(), 20); // still a caption, not small print
+        }
+    }
+}
+
 TEST_F(EndOfGameFormsTest, TheNameFormGreetsTakesTwelveCharactersAndClosesOnEnter) {
     g.turnCount = 1;
     QString greeting;

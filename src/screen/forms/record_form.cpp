@@ -24,6 +24,7 @@ constexpr int kBallsDrop = 2;
 constexpr int kBallStep = 22;
 constexpr int kOkMargin = 6;
 constexpr int kSecondsAMinute = 60;
+constexpr int kTitleMargin = 2;
 
 QString zeroPadded(long value, int places) {
     return QString("%1").arg(value, places, 10, QChar('0'));
@@ -75,10 +76,11 @@ void RecordForm::drawRecordForm() {
     surface_.fill(Qt::black);
     QPainter painter(&surface_);
     painter.setPen(kFormGreen);
-    const QFont titleFont = gameFont("Arial", kTitlePoints, false);
-    painter.setFont(titleFont);
-    printAt(painter, {0, 0}, QString::fromStdString(recordTitle(g_)));
-    int y = QFontMetrics(titleFont).height();
+    const QString title = QString::fromStdString(recordTitle(g_));
+    fitTitle(title);
+    painter.setFont(titleFont_);
+    printAt(painter, {titleLeft_, 0}, title);
+    int y = QFontMetrics(gameFont("Arial", kTitlePoints, false)).height();
 
     const QFont lineFont = gameFont("Arial", kLinePoints, false);
     const QFontMetrics metrics(lineFont);
@@ -94,6 +96,19 @@ void RecordForm::drawRecordForm() {
     y += metrics.height();
     painter.end();
     drawRecordBalls(getPocketedString(g_), {kBallsIndent, y + kBallsDrop});
+}
+
+// The caption at 20 points where it fits, else a pixel smaller at a time until the whole of its
+// ink, overhangs too, lies within the form with a little room at each edge; then centred.
+void RecordForm::fitTitle(const QString& title) {
+    titleFont_ = gameFont("Arial", kTitlePoints, false);
+    const int room = width() - 2 * kTitleMargin;
+    QRect ink = QFontMetrics(titleFont_).boundingRect(title);
+    while (ink.width() > room && titleFont_.pixelSize() > 1) {
+        titleFont_.setPixelSize(titleFont_.pixelSize() - 1);
+        ink = QFontMetrics(titleFont_).boundingRect(title);
+    }
+    titleLeft_ = (width() - ink.width()) / 2 - ink.left();
 }
 
 // Each ball down: the mask darkens its disc, then the ball goes onto it; 2 pixels between balls.

@@ -32,6 +32,10 @@ class RecordForm : public QDialog {
     // Where the first ball of the row stands.
     QPoint ballsOrigin() const { return ballsOrigin_; }
     PictureButton* picOK() const { return picOK_; }
+    // The caption as drawn: its font, shrunk until the whole of its ink fits the form's width,
+    // and where its text starts.
+    const QFont& titleFont() const { return titleFont_; }
+    int titleLeft() const { return titleLeft_; }
     void picOK_Click();
 
   protected:
@@ -39,12 +43,15 @@ class RecordForm : public QDialog {
 
   private:
     void drawRecordForm();
+    void fitTitle(const QString& title);
     void drawRecordBalls(const std::string& balls, QPoint origin);
 
     const GameState& g_;
     QImage picBalls_;
     QImage surface_;
     QPoint ballsOrigin_;
+    QFont titleFont_;
+    int titleLeft_ = 0;
     PictureButton* picOK_;
 };
 
