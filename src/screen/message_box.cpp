@@ -8,6 +8,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -59,9 +60,13 @@ MessageBoxForm::MessageBoxForm(const std::string& text, const QImage& okPicture,
     lblMsg_->setFont(gameFont("Arial", kMsgFontPoints, false));
     lblMsg_->setText(QString::fromStdString(text));
     lblMsg_->adjustSize();
-    const int labelWidth =
-        layout.labelWidth > 0 ? twipsToPixels(layout.labelWidth) : lblMsg_->width();
-    lblMsg_->setGeometry(twipsToPixels(layout.labelLeft), twipsToPixels(kLabelTopTwips), labelWidth,
+    // The label spans the room the layout gives the text, or the text where that is wider, and
+    // centres it: the text stands in the middle of the box.
+    const int formWidth = twipsToPixels(layout.formWidth);
+    const int room = formWidth - 2 * twipsToPixels(layout.labelLeft);
+    const int labelWidth = std::max(room, lblMsg_->width());
+    lblMsg_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    lblMsg_->setGeometry((formWidth - labelWidth) / 2, twipsToPixels(kLabelTopTwips), labelWidth,
                          lblMsg_->height());
 
     picOK_->setPixmap(QPixmap::fromImage(okPicture));
@@ -69,7 +74,7 @@ MessageBoxForm::MessageBoxForm(const std::string& text, const QImage& okPicture,
                         twipsToPixels(kOkWidthTwips), twipsToPixels(kOkHeightTwips));
     picOK_->installEventFilter(this);
 
-    setFixedSize(twipsToPixels(layout.formWidth), twipsToPixels(kMsgBoxHeightTwips));
+    setFixedSize(formWidth, twipsToPixels(kMsgBoxHeightTwips));
     if (mainWindow)
         centreOver(*this, mainWindow);
 }

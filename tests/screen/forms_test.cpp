@@ -47,6 +47,38 @@ TEST_F(FormsTest, TheMessageBoxIsModalSizedAndClosedByAnyKey) {
     EXPECT_EQ(QSize(95, 90), shown); // 1.2 x 1.2 the 66 pixels of the OK picture
 }
 
+// The columns of a picture's rows top to bottom - 1 that hold a green pixel of the text.
+std::pair<int, int> greenColumns(const QImage& picture, int top, int bottom) {
+    int left = picture.width();
+    int right = -1;
+    for (int y = top; y < bottom; ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGreen(picture.pixel(x, y)) > 128 && qRed(picture.pixel(x, y)) < 128) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+        }
+    }
+    return {left, right};
+}
+
+TEST_F(FormsTest, TheMessagesTextStandsInTheMiddleOfItsBox) {
+    QImage ok(66, 34, QImage::Format_RGB32);
+    ok.fill(Qt::black);
+    for (const char* text :
+         {"Foul !", "You missed !", "A", "Scratch ! Ball in hand for the other"}) {
+        SCOPED_TRACE(text);
+        MessageBoxForm form(text, ok, nullptr);
+        const QImage drawn = form.grab().toImage();
+        const QRect label = form.lblMsg()->geometry();
+        const auto [left, right] = greenColumns(drawn, label.top(), label.bottom() + 1);
+        ASSERT_LT(left, right);
+        EXPECT_NEAR((left + right + 1) / 2.0, form.width() / 2.0, 2.0);
+        EXPECT_GE(left, 0);
+        EXPECT_LT(right, form.width());
+    }
+}
+
 TEST_F(FormsTest, TheInformationLineFollowsTheMode) {
     g.turnCount = 3;
     g.shotCount = 12;
