@@ -13,6 +13,7 @@
 #include "screen/fonts.h"
 #include "screen/information_bar.h"
 #include "screen/menu_hover.h"
+#include "screen/strip_style.h"
 #include "startup/settings.h"
 
 #include <QCloseEvent>
@@ -84,7 +85,9 @@ void MainWindow::createControls(QtScreen& screen) {
     HScroll1_->setRange(kPowerMin, kPowerMax);
     HScroll1_->setSingleStep(1);
     HScroll1_->setPageStep(10);
+    HScroll1_->setStyleSheet(powerBarStyle());
     cmdShot_ = new QPushButton(this);
+    cmdShot_->setStyleSheet(shotButtonStyle());
     lblBIP_ = new QLabel(QStringLiteral("Balls in the Poket"), this);
     lblBIP_->setAlignment(Qt::AlignCenter);
     lblBIP_->setStyleSheet(kStripLabelStyle);

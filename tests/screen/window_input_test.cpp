@@ -8,6 +8,7 @@
 #include "game/timers.h"
 #include "game/view_coords.h"
 #include "rules/modes.h"
+#include "screen/strip_style.h"
 
 #include <QTest>
 
@@ -149,6 +150,47 @@ TEST_F(WindowInputTest, F2RacksANewGameAndTheShotButtonFires) {
     window->syncControlsFromState();
     EXPECT_TRUE(window->cmdShot()->isEnabled());
     EXPECT_FALSE(g.breakPending);
+}
+
+// How many pixels of a widget's picture are close to a colour.
+int pixelsNear(QWidget* w, const QColor& colour) {
+    const QImage picture = w->grab().toImage();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor c = picture.pixelColor(x, y);
+            count += std::abs(c.red() - colour.red()) + std::abs(c.green() - colour.green()) +
+                         std::abs(c.blue() - colour.blue()) <
+                     24;
+        }
+    }
+    return count;
+}
+
+// The bar and the button wear the felt and the wood of the table where the toolkit's grey stood,
+// and keep their places; while balls roll the caption is cream on darker wood, still plain.
+TEST_F(WindowInputTest, ThePowerBarAndShotWearTheTablesColoursInTheirPlaces) {
+    QPushButton* shot = window->cmdShot();
+    QScrollBar* bar = window->HScroll1();
+    EXPECT_EQ(QRect(200, 327, 145, 45), shot->geometry());
+    EXPECT_EQ(QRect(49, 350, 149, 22), bar->geometry());
+    EXPECT_EQ(QString("Shot!"), shot->text());
+
+    ASSERT_TRUE(shot->isEnabled());
+    EXPECT_GT(pixelsNear(shot, kRailWood), 145 * 45 / 2);
+    EXPECT_GT(pixelsNear(shot, kDarkWood), 200); // the caption and the border
+    EXPECT_GT(pixelsNear(bar, kFeltGreen), 149 * 22 / 4);
+    EXPECT_GT(pixelsNear(bar, kRailWood), 100); // the handle and the end buttons
+
+    g.controls.shotEnabled = false;
+    g.controls.powerEnabled = false;
+    window->syncControlsFromState();
+    ASSERT_FALSE(shot->isEnabled());
+    EXPECT_GT(pixelsNear(shot, kRailWoodDim), 145 * 45 / 2);
+    EXPECT_GT(pixelsNear(shot, kCreamCaption), 200);
+    EXPECT_GT(pixelsNear(bar, kRailWoodDim), 100);
+    EXPECT_EQ(QRect(200, 327, 145, 45), shot->geometry());
+    EXPECT_EQ(QRect(49, 350, 149, 22), bar->geometry());
 }
 
 } // namespace
