@@ -32,18 +32,7 @@ server_pid=
 wm_pid=
 game_pid=
 step=start
-
-end_process() {
-    local pid=$1
-    [ -n "$pid" ] || return 0
-    kill "$pid" 2>/dev/null || return 0
-    for _ in $(seq 50); do
-        kill -0 "$pid" 2>/dev/null || break
-        sleep 0.1
-    done
-    kill -9 "$pid" 2>/dev/null || true
-    wait "$pid" 2>/dev/null || true
-}
+source scripts/window-checks.sh
 
 cleanup() {
     end_process "$game_pid"
@@ -59,38 +48,6 @@ fail() {
         [ -s "$log" ] && { echo "--- $log" >&2; tail -n 20 "$log" >&2; }
     done
     exit 1
-}
-
-# Polls a command every tenth of a second until it succeeds; fails after `limit` seconds, or at
-# once if the game has ended by itself.
-wait_for() {
-    local what=$1
-    shift
-    local deadline=$((SECONDS + limit))
-    until "$@"; do
-        if [ -n "$game_pid" ] && ! kill -0 "$game_pid" 2>/dev/null; then
-            fail "the game ended while waiting for $what"
-        fi
-        ((SECONDS < deadline)) || fail "no $what after ${limit} s"
-        sleep 0.1
-    done
-}
-
-# How many pixels of a picture, or of the part WxH+X+Y of it, are exactly the colour.
-pixels_of() {
-    local picture=$1 colour=$2 part=${3:-}
-    convert "$picture" ${part:+-crop "$part" +repage} -alpha off \
-        -fill black +opaque "$colour" -fill white -opaque "$colour" \
-        -format '%[fx:round(mean*w*h)]' info:
-}
-
-# The menu's words in their dim colours: the three modes green, Record and Exit purple, the
-# credit lines cyan.
-menu_drawn() {
-    local picture=$1
-    (($(pixels_of "$picture" '#339966') >= 1200)) &&
-        (($(pixels_of "$picture" '#993366') >= 500)) &&
-        (($(pixels_of "$picture" '#00C0C0') >= 300))
 }
 
 # ---------------------------------------------------------------------------------------------
@@ -115,14 +72,6 @@ step=splash
 MORVANE_HOME=$work/home MORVANE_NEARLY_CLEARED=1 SDL_AUDIODRIVER=dummy \
     "$game" >"$work/game.log" 2>&1 &
 game_pid=$!
-main_window_shown() {
-    window=$(xdotool search --onlyvisible --name '^MORVANE Ver\.' 2>/dev/null | head -1)
-    [ -n "$window" ]
-}
-splash_shown() {
-    splash=$(xdotool search --onlyvisible --class '^morvane$' 2>/dev/null | head -1)
-    [ -n "$splash" ]
-}
 wait_for "splash" splash_shown
 # A click on the splash brings the main window at once.
 main_window_shown || xdotool mousemove --window "$splash" 10 10 click 1 2>/dev/null || true
@@ -130,9 +79,6 @@ wait_for "main window" main_window_shown
 echo "journey: splash, then the main window"
 
 step=menu
-shot=$work/window.png
-grab() { import -window "$window" ${2:+-crop "$2" +repage} "$1" 2>/dev/null; }
-menu_on_screen() { grab "$shot" && menu_drawn "$shot"; }
 wait_for "menu drawn" menu_on_screen
 echo "journey: the menu is drawn"
 
@@ -163,24 +109,12 @@ done
 echo "journey: the right-click menu came on each of 3 right clicks"
 
 step="Solo Play"
-solo_play=163x41+16+56
-solo_play_lit() { grab "$work/solo.png" "$solo_play" &&
-    (($(pixels_of "$work/solo.png" '#00FF00') >= 400)); }
 point_at 97 76
 wait_for "Solo Play lit" solo_play_lit
 click_at 97 76
-table_on_screen() { grab "$shot" && (($(pixels_of "$shot" '#339966' "$solo_play") < 50)); }
 wait_for "the table of a solo game" table_on_screen
 echo "journey: Solo Play shows the table"
 
-# The caption of SHOT! is dark when a shot can be played and fades while the balls roll.
-caption_dark_pixels() {
-    grab "$work/caption.png" 125x31+210+334 &&
-        convert "$work/caption.png" -colorspace gray -threshold 30% -negate \
-            -format '%[fx:round(mean*w*h)]' info:
-}
-shot_ready() { (($(caption_dark_pixels) >= 200)); }
-balls_rolling() { (($(caption_dark_pixels) < 50)); }
 # The forms of the game other than the main window; a foul message closes with Escape.
 record_form() { xdotool search --onlyvisible --name '^Your Record$' 2>/dev/null | head -1; }
 close_foul_message() {
@@ -193,7 +127,6 @@ close_foul_message() {
 }
 
 step=break
-table=540x299+0+25
 wait_for "SHOT! ready for the break" shot_ready
 grab "$work/rack.png" "$table"
 click_at 272 349

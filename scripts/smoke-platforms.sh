@@ -29,19 +29,7 @@ else
 fi
 server_pid=
 game_pid=
-
-# Ends one process we started: politely, then for certain.
-end_process() {
-    local pid=$1
-    [ -n "$pid" ] || return 0
-    kill "$pid" 2>/dev/null || return 0
-    for _ in $(seq 50); do
-        kill -0 "$pid" 2>/dev/null || break
-        sleep 0.1
-    done
-    kill -9 "$pid" 2>/dev/null || true
-    wait "$pid" 2>/dev/null || true
-}
+source scripts/window-checks.sh
 
 cleanup() {
     end_process "$game_pid"
@@ -56,39 +44,6 @@ fail() {
         [ -s "$log" ] && { echo "--- $log" >&2; tail -n 20 "$log" >&2; }
     done
     exit 1
-}
-
-# Polls a command every tenth of a second until it succeeds; fails after `limit` seconds, or at
-# once if the game has ended by itself.
-wait_for() {
-    local what=$1
-    shift
-    local deadline=$((SECONDS + limit))
-    until "$@"; do
-        if [ -n "$game_pid" ] && ! kill -0 "$game_pid" 2>/dev/null; then
-            fail "the game ended while waiting for $what"
-        fi
-        ((SECONDS < deadline)) || fail "no $what after ${limit} s"
-        sleep 0.1
-    done
-}
-
-# How many pixels of a picture, or of the part WxH+X+Y of it, are exactly the colour.
-pixels_of() {
-    local picture=$1 colour=$2 part=${3:-}
-    convert "$picture" ${part:+-crop "$part" +repage} -alpha off \
-        -fill black +opaque "$colour" -fill white -opaque "$colour" \
-        -format '%[fx:round(mean*w*h)]' info:
-}
-
-# The menu as it stands with at most one word lit: the words of the three modes in dim green,
-# Record and Exit in dim purple, the two credit lines in cyan. No other screen of the game and no
-# desktop shows these colours in such numbers.
-menu_drawn() {
-    local picture=$1
-    (($(pixels_of "$picture" '#339966') >= 1200)) &&
-        (($(pixels_of "$picture" '#993366') >= 500)) &&
-        (($(pixels_of "$picture" '#00C0C0') >= 300))
 }
 
 # The game's own environment: a home of its own, where the first start finds no settings and
@@ -128,14 +83,6 @@ start_game
 
 # The splash comes first, and a click on it brings the main window at once. Until the main
 # window shows, the splash is the game's only window on the screen.
-main_window_shown() {
-    window=$(xdotool search --onlyvisible --name '^MORVANE Ver\.' 2>/dev/null | head -1)
-    [ -n "$window" ]
-}
-splash_shown() {
-    splash=$(xdotool search --onlyvisible --class '^morvane$' 2>/dev/null | head -1)
-    [ -n "$splash" ]
-}
 wait_for "splash" splash_shown
 if ! main_window_shown; then
     eval "$(xdotool getwindowgeometry --shell "$splash")"
@@ -144,10 +91,8 @@ fi
 wait_for "main window" main_window_shown
 eval "$(xdotool getwindowgeometry --shell "$window")" # X and Y of the client area
 
-# Pictures of the window, whole or a part WxH+X+Y of it, in the window's own pixels.
+# The pictures of the window under X11 are kept under this name.
 shot=$work/x11.png
-grab() { import -window "$window" ${2:+-crop "$2" +repage} "$1" 2>/dev/null; }
-menu_on_screen() { grab "$shot" && menu_drawn "$shot"; }
 wait_for "menu drawn under X11" menu_on_screen
 echo "x11: the menu is drawn"
 
@@ -159,27 +104,15 @@ click_at() {
 }
 
 # Solo Play lights under the pointer, and a click on it starts a game.
-solo_play=163x41+16+56
-solo_play_lit() { grab "$work/solo.png" "$solo_play" &&
-    (($(pixels_of "$work/solo.png" '#00FF00') >= 400)); }
 point_at 97 76
 wait_for "Solo Play lit" solo_play_lit
 click_at 97 76
-table_on_screen() { grab "$shot" && (($(pixels_of "$shot" '#339966' "$solo_play") < 50)); }
 wait_for "the table of a solo game" table_on_screen
 
 # The break: the caption of SHOT! goes grey while the balls roll and black again once they
 # have stopped and the next shot is set up. A foul on the break, or the nine falling, brings up a
 # form first; Escape closes each as a player could, and the game goes on to its next shot or its
 # record screen (black there too).
-caption_dark_pixels() {
-    grab "$work/caption.png" 125x31+210+334 &&
-        convert "$work/caption.png" -colorspace gray -threshold 30% -negate \
-            -format '%[fx:round(mean*w*h)]' info:
-}
-shot_ready() { (($(caption_dark_pixels) >= 200)); }
-balls_rolling() { (($(caption_dark_pixels) < 50)); }
-table=540x299+0+25
 wait_for "SHOT! ready for the break" shot_ready
 grab "$work/rack.png" "$table"
 click_at 272 349
