@@ -7,7 +7,7 @@ packages=(
     qt6-base-dev libsdl2-mixer-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     timgm6mb-soundfont fonts-liberation fonts-ipafont-gothic
-    xvfb xauth xdg-utils xdotool imagemagick openbox
+    xvfb xauth xdg-utils xdotool imagemagick openbox rsync
 )
 
 missing=()
