@@ -92,8 +92,12 @@ BallLook ballLook(int number) {
     return look;
 }
 
-void paintBall(QImage& image, QPointF centre, double radius, const BallLook& look,
+void paintBall(QImage& image, QPointF where, double size, const BallLook& look,
                const BallStyle& style) {
+    // Worked out in the picture's own pixels, however many it holds for each drawing unit.
+    const double scale = image.devicePixelRatio();
+    const QPointF centre = where * scale;
+    const double radius = size * scale;
     const double ry = radius * style.squash;
     const int left = std::max(0, static_cast<int>(std::floor(centre.x() - radius)));
     const int right = std::min(image.width() - 1, static_cast<int>(std::ceil(centre.x() + radius)));
@@ -151,8 +155,8 @@ bool insideCellDisc(int x, int y, int size) {
     return dx * dx + dy * dy <= half * half;
 }
 
-QImage ballCell(int number, int size, bool numbered) {
-    QImage cell = filledPicture(size, size, Qt::black);
+QImage ballCell(int number, int size, bool numbered, int scale) {
+    QImage cell = filledPicture(size, size, Qt::black, scale);
     const BallLook look = ballLook(number);
     BallStyle style;
     const bool showsNumber = numbered && number != 0;
@@ -160,18 +164,21 @@ QImage ballCell(int number, int size, bool numbered) {
     paintBall(cell, QPointF(size / 2.0, size / 2.0), size / 2.0, look, style);
     if (showsNumber)
         printNumber(cell, QRectF(0, 0, size, size), number, look, style.numberDisc);
-    for (int y = 0; y < size; ++y)
-        for (int x = 0; x < size; ++x)
-            if (!insideCellDisc(x, y, size))
+    const int pixels = size * scale;
+    for (int y = 0; y < pixels; ++y)
+        for (int x = 0; x < pixels; ++x)
+            if (!insideCellDisc(x, y, pixels))
                 cell.setPixelColor(x, y, Qt::black);
     return cell;
 }
 
-QImage discCell(int size, QColor inside, QColor outside) {
-    QImage cell(size, size, QImage::Format_RGB32);
-    for (int y = 0; y < size; ++y)
-        for (int x = 0; x < size; ++x)
-            cell.setPixelColor(x, y, insideCellDisc(x, y, size) ? inside : outside);
+QImage discCell(int size, QColor inside, QColor outside, int scale) {
+    QImage cell = filledPicture(size, size, outside, scale);
+    const int pixels = size * scale;
+    for (int y = 0; y < pixels; ++y)
+        for (int x = 0; x < pixels; ++x)
+            if (insideCellDisc(x, y, pixels))
+                cell.setPixelColor(x, y, inside);
     return cell;
 }
 

@@ -32,22 +32,24 @@ struct BallStyle {
     double squash = 1.0; // height over width of the outline, for balls seen in perspective
 };
 
-// Blends a ball of the given radius, centred on `centre`, over what the image holds.
-void paintBall(QImage& image, QPointF centre, double radius, const BallLook& look,
+// Blends a ball of radius `size`, centred on `where`, over what the image holds. Both are in the
+// units a painter on the image works in; the ball is shaded in every pixel the image holds.
+void paintBall(QImage& image, QPointF where, double size, const BallLook& look,
                const BallStyle& style);
 
 // A ball at rest as seen from above, its number on a white disc (none on the cue ball).
 void paintNumberedBall(QImage& image, QPointF centre, double radius, int number);
 
-// True when the pixel (x, y) of a square cell of `size` lies inside the ball's disc: the one
-// rule shared by the mask, the shadow and the sprites, so that they always line up.
+// True when the pixel (x, y) of a square cell of `size` pixels lies inside the ball's disc: the
+// one rule shared by the mask, the shadow and the sprites, so that they always line up.
 bool insideCellDisc(int x, int y, int size);
 
-// A cell of `size` by `size` pixels on black holding ball `number`, with its number printed
-// when `numbered` is set; every pixel outside the cell's disc is black.
-QImage ballCell(int number, int size, bool numbered);
+// A cell of `size` by `size` on black holding ball `number`, with its number printed when
+// `numbered` is set; every pixel outside the cell's disc is black. At a scale above 1 the cell
+// holds `scale` pixels a side for each of its size.
+QImage ballCell(int number, int size, bool numbered, int scale);
 
 // A cell with a plain disc of `inside` on `outside`, following insideCellDisc.
-QImage discCell(int size, QColor inside, QColor outside);
+QImage discCell(int size, QColor inside, QColor outside, int scale);
 
 } // namespace morvane::assets

@@ -59,8 +59,8 @@ void paintCredits(QPainter& p) {
 
 } // namespace
 
-QImage openingPicture() {
-    QImage image(kOpeningWidth, kOpeningHeight, QImage::Format_RGB32);
+QImage openingPicture(int scale) {
+    QImage image = filledPicture(kOpeningWidth, kOpeningHeight, Qt::black, scale);
     {
         QPainter p(&image);
         p.setRenderHint(QPainter::Antialiasing);
@@ -76,8 +76,8 @@ QImage openingPicture() {
     return image;
 }
 
-QImage zephFace(int frame) {
-    QImage face = filledPicture(kFaceSize, kFaceSize, Qt::black);
+QImage zephFace(int frame, int scale) {
+    QImage face = filledPicture(kFaceSize, kFaceSize, Qt::black, scale);
     {
         // Flat colours without smoothing: the face is drawn as a small pixel picture.
         QPainter p(&face);
@@ -112,16 +112,16 @@ QImage zephFace(int frame) {
     return face;
 }
 
-QImage zephFrames() {
-    QImage strip(kFaceSize * kZephFrameCount, kFaceSize, QImage::Format_RGB32);
+QImage zephFrames(int scale) {
+    QImage strip = filledPicture(kFaceSize * kZephFrameCount, kFaceSize, Qt::black, scale);
     QPainter p(&strip);
     for (int f = 0; f < kZephFrameCount; ++f)
-        p.drawImage(kFaceSize * f, 0, zephFace(f));
+        p.drawImage(kFaceSize * f, 0, zephFace(f, scale));
     return strip;
 }
 
-QImage buttonPicture(const QString& caption) {
-    QImage image = filledPicture(kButtonWidth, kButtonHeight, Qt::black);
+QImage buttonPicture(const QString& caption, int scale) {
+    QImage image = filledPicture(kButtonWidth, kButtonHeight, Qt::black, scale);
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     QLinearGradient face(0, 0, 0, kButtonHeight);
@@ -133,7 +133,7 @@ QImage buttonPicture(const QString& caption) {
     p.drawRoundedRect(QRectF(1, 1, kButtonWidth - 2, kButtonHeight - 2), 6, 6);
     p.setPen(QColor(0, 255, 0));
     p.setFont(gameFont(caption.size() > 2 ? 15 : 18, true));
-    p.drawText(image.rect(), Qt::AlignCenter, caption);
+    p.drawText(drawingArea(image), Qt::AlignCenter, caption);
     return image;
 }
 

@@ -1,5 +1,5 @@
 // The pictures of the small forms: the splash, zeph's face and its blink, the OK and Cancel
-// buttons, and the program's icon.
+// buttons, and the program's icon. Each is drawn at a scale of 1, 2 or 3, as sheet.h tells.
 #pragma once
 
 #include <QImage>
@@ -9,15 +9,15 @@ namespace morvane::assets {
 inline constexpr int kZephFrameCount = 5;
 
 // The title on a dark ground, a large ball in the middle, the credits at the foot.
-QImage openingPicture();
+QImage openingPicture(int scale);
 
 // zeph's face, eyes open at frame 0 and shut at the last frame.
-QImage zephFace(int frame);
+QImage zephFace(int frame, int scale);
 
 // The five frames side by side.
-QImage zephFrames();
+QImage zephFrames(int scale);
 
-QImage buttonPicture(const QString& caption);
+QImage buttonPicture(const QString& caption, int scale);
 
 // A nine ball on a transparent ground.
 QImage iconPicture(int size);

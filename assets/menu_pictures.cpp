@@ -118,11 +118,11 @@ void paintCue(QPainter& p, QPointF tip, QPointF butt) {
 
 } // namespace
 
-QImage menuPicture(const QImage& tableFromAbove) {
-    QImage menu = filledPicture(kMenuWidth, kMenuHeight, Qt::black);
+QImage menuPicture(const QImage& tableFromAbove, int scale) {
+    QImage menu = filledPicture(kMenuWidth, kMenuHeight, Qt::black, scale);
     QTransform toMenu;
-    const double w = tableFromAbove.width();
-    const double h = tableFromAbove.height();
+    const double w = tableFromAbove.deviceIndependentSize().width();
+    const double h = tableFromAbove.deviceIndependentSize().height();
     const QPolygonF flat({QPointF(0, 0), QPointF(w, 0), QPointF(w, h), QPointF(0, h)});
     QTransform::quadToQuad(flat, kTableOnMenu, toMenu);
     {
@@ -156,7 +156,7 @@ QImage menuPicture(const QImage& tableFromAbove) {
     return menu;
 }
 
-QImage menuWordPicture(MenuWord word, bool lit) {
+QImage menuWordPicture(MenuWord word, bool lit, int scale) {
     const Word w = wordOf(word);
     const QColor colour =
         w.green ? (lit ? kBrightGreen : kDimGreen) : (lit ? kBrightMagenta : kDimPurple);
@@ -164,7 +164,7 @@ QImage menuWordPicture(MenuWord word, bool lit) {
     int pixels = w.height * 3 / 4;
     while (pixels > 8 && QFontMetrics(gameFont(pixels, true)).horizontalAdvance(text) > w.width - 6)
         --pixels;
-    return wordPicture(w.width, w.height, text, colour, pixels);
+    return wordPicture(w.width, w.height, text, colour, pixels, scale);
 }
 
 namespace {
@@ -231,8 +231,8 @@ void paintCross(QPainter& p) {
 
 } // namespace
 
-QImage menuSwitchPicture(MenuSwitch which, bool off) {
-    QImage image = filledPicture(kSwitchSize, kSwitchSize, Qt::black);
+QImage menuSwitchPicture(MenuSwitch which, bool off, int scale) {
+    QImage image = filledPicture(kSwitchSize, kSwitchSize, Qt::black, scale);
     QPainter p(&image);
     p.setRenderHint(QPainter::Antialiasing);
     switch (which) {

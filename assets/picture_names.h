@@ -1,7 +1,12 @@
 // The pictures the forms carry, compiled into the program as Qt resources by the
 // morvane_pictures library. Load them with QImage(name) or QPixmap(name).
+//
+// Every picture but the icon also comes in a set for each of the finer scales: "table@2x.png"
+// holds the table sheet with 2 pixels a side for each of "table.png", "mv256@3x.bmp" the
+// 256-colour sheet with 3. Sizes and places in the game stay those of the scale 1 pictures.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace morvane::pictures {
@@ -58,5 +63,24 @@ inline constexpr PictureSize kAllPictures[] = {
 constexpr std::string_view fileName(std::string_view name) {
     return name.substr(kPrefix.size());
 }
+
+// The scales the pictures are drawn at.
+inline constexpr int kScales[] = {1, 2, 3};
+inline constexpr int kFinestScale = 3;
+
+// The name of a picture or picture file in the set of a scale: "table.png" at 2 is
+// "table@2x.png"; at 1 the name stays as it is.
+inline std::string scaledName(std::string_view name, int scale) {
+    std::string scaled(name);
+    if (scale == 1)
+        return scaled;
+    const size_t dot = scaled.rfind('.');
+    scaled.insert(dot == std::string::npos ? scaled.size() : dot,
+                  "@" + std::to_string(scale) + "x");
+    return scaled;
+}
+
+// The sizes of the program's icon in the desktop's icon theme, as files "morvane-SIZE.png".
+inline constexpr int kIconSizes[] = {16, 24, 32, 48, 64, 128, 256};
 
 } // namespace morvane::pictures

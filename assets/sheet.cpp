@@ -25,8 +25,8 @@ constexpr QColor kMagenta{255, 0, 255};
 constexpr double kSpotRadius = 2.2;
 constexpr int kSightSpacing = 60;
 
-// Wood with a grain running along each rail.
-QColor woodAt(int x, int y) {
+// Wood with a grain running along each rail, at a point of the table.
+QColor woodAt(double x, double y) {
     const bool sideRail = (x < kPlayLeft || x >= kPlayRight) && y >= kPlayTop && y < kPlayBottom;
     const double along = sideRail ? y : x;
     const double across = sideRail ? x : y;
@@ -38,10 +38,16 @@ QColor woodAt(int x, int y) {
                   std::clamp(int(kWood.blue() * f), 0, 255));
 }
 
-void paintRail(QImage& table) {
-    for (int y = 0; y < kTableHeight; ++y)
-        for (int x = 0; x < kSheetWidth; ++x)
-            table.setPixelColor(x, y, woodAt(x, y));
+// The point of the table that a pixel of the picture shows, with the pixels of a picture at
+// scale 1 on whole numbers.
+double tablePoint(int pixel, int scale) {
+    return (pixel + 0.5) / scale - 0.5;
+}
+
+void paintRail(QImage& table, int scale) {
+    for (int y = 0; y < table.height(); ++y)
+        for (int x = 0; x < table.width(); ++x)
+            table.setPixelColor(x, y, woodAt(tablePoint(x, scale), tablePoint(y, scale)));
     QPainter p(&table);
     p.setPen(Qt::NoPen);
     // Lighter edges: the outer rim and the inner border where the cushion starts.
@@ -96,8 +102,8 @@ void paintPockets(QPainter& p) {
     }
 }
 
-void paintTable(QImage& sheet) {
-    paintRail(sheet);
+void paintTable(QImage& sheet, int scale) {
+    paintRail(sheet, scale);
     QPainter p(&sheet);
     p.setRenderHint(QPainter::Antialiasing);
     paintSights(p);
@@ -136,8 +142,8 @@ void paintComputer(QPainter& p, QRectF box, QColor colour) {
     p.drawRect(QRectF(box.left() + 2.5, box.bottom() - 3.5, box.width() - 5, 1.2));
 }
 
-QImage modeIcon(int kind) {
-    QImage icon = filledPicture(kIconSize, kIconSize, Qt::black);
+QImage modeIcon(int kind, int scale) {
+    QImage icon = filledPicture(kIconSize, kIconSize, Qt::black, scale);
     QPainter p(&icon);
     p.setRenderHint(QPainter::Antialiasing);
     if (kind == 0) {
@@ -152,39 +158,40 @@ QImage modeIcon(int kind) {
     return icon;
 }
 
-void paintSprites(QImage& sheet) {
+void paintSprites(QImage& sheet, int scale) {
     QPainter p(&sheet);
     for (int i = 0; i < kBallCount; ++i) {
-        p.drawImage(kCellSize * i, kRestRow, ballCell(i, kCellSize, true));
-        p.drawImage(kCellSize * i, kRollingRow, ballCell(i, kCellSize, false));
-        p.drawImage(kSmallBallSize * i, kSmallPlainRow, ballCell(i, kSmallBallSize, false));
-        p.drawImage(kSmallBallSize * i, kSmallNumberedRow, ballCell(i, kSmallBallSize, true));
+        p.drawImage(kCellSize * i, kRestRow, ballCell(i, kCellSize, true, scale));
+        p.drawImage(kCellSize * i, kRollingRow, ballCell(i, kCellSize, false, scale));
+        p.drawImage(kSmallBallSize * i, kSmallPlainRow, ballCell(i, kSmallBallSize, false, scale));
+        p.drawImage(kSmallBallSize * i, kSmallNumberedRow,
+                    ballCell(i, kSmallBallSize, true, scale));
     }
-    p.drawImage(kMaskColumn, kRestRow, discCell(kCellSize, Qt::black, Qt::white));
-    p.drawImage(kMaskColumn, kRollingRow, discCell(kCellSize, kShadowColour, Qt::black));
-    p.drawImage(kSoloIconLeft, kIconTop, modeIcon(0));
-    p.drawImage(kVersusCpuIconLeft, kIconTop, modeIcon(1));
-    p.drawImage(kVersusIconLeft, kIconTop, modeIcon(2));
+    p.drawImage(kMaskColumn, kRestRow, discCell(kCellSize, Qt::black, Qt::white, scale));
+    p.drawImage(kMaskColumn, kRollingRow, discCell(kCellSize, kShadowColour, Qt::black, scale));
+    p.drawImage(kSoloIconLeft, kIconTop, modeIcon(0, scale));
+    p.drawImage(kVersusCpuIconLeft, kIconTop, modeIcon(1, scale));
+    p.drawImage(kVersusIconLeft, kIconTop, modeIcon(2, scale));
 }
 
 } // namespace
 
-QImage tablePicture() {
-    QImage table(kSheetWidth, kTableHeight, QImage::Format_RGB32);
-    paintTable(table);
+QImage tablePicture(int scale) {
+    QImage table = filledPicture(kSheetWidth, kTableHeight, Qt::black, scale);
+    paintTable(table, scale);
     return table;
 }
 
-QImage tableSheet(bool withSetPointBall) {
-    QImage sheet = filledPicture(kSheetWidth, kSheetHeight, Qt::white);
+QImage tableSheet(bool withSetPointBall, int scale) {
+    QImage sheet = filledPicture(kSheetWidth, kSheetHeight, Qt::white, scale);
     {
         QPainter p(&sheet);
-        p.drawImage(0, 0, tablePicture());
+        p.drawImage(0, 0, tablePicture(scale));
     }
-    paintSprites(sheet);
+    paintSprites(sheet, scale);
     if (withSetPointBall) {
         QPainter p(&sheet);
-        p.drawImage(kSetPointCorner, setPointBall());
+        p.drawImage(kSetPointCorner, setPointBall(scale));
     }
     return sheet;
 }
@@ -193,8 +200,8 @@ std::vector<QRgb> sheetColours() {
     return {kClothColour.rgb(), kShadowColour.rgb(), kSpotColour.rgb()};
 }
 
-QImage setPointBall() {
-    QImage image = filledPicture(kSetPointSize, kSetPointSize, QColor(64, 64, 64));
+QImage setPointBall(int scale) {
+    QImage image = filledPicture(kSetPointSize, kSetPointSize, QColor(64, 64, 64), scale);
     BallStyle style;
     style.light = Light{0.0, -0.75, 0.66};
     const double half = kSetPointSize / 2.0;

@@ -4,10 +4,15 @@
 
 namespace morvane::assets {
 
-QImage filledPicture(int width, int height, QColor colour) {
-    QImage image(width, height, QImage::Format_RGB32);
+QImage filledPicture(int width, int height, QColor colour, int scale) {
+    QImage image(width * scale, height * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
     image.fill(colour);
     return image;
+}
+
+QRect drawingArea(const QImage& picture) {
+    return QRect(QPoint(0, 0), picture.deviceIndependentSize().toSize());
 }
 
 QFont gameFont(int pixelSize, bool bold) {
@@ -19,13 +24,14 @@ QFont gameFont(int pixelSize, bool bold) {
     return font;
 }
 
-QImage wordPicture(int width, int height, const QString& text, QColor colour, int pixelSize) {
-    QImage image = filledPicture(width, height, Qt::black);
+QImage wordPicture(int width, int height, const QString& text, QColor colour, int pixelSize,
+                   int scale) {
+    QImage image = filledPicture(width, height, Qt::black, scale);
     QPainter p(&image);
     p.setRenderHint(QPainter::TextAntialiasing);
     p.setFont(gameFont(pixelSize, true));
     p.setPen(colour);
-    p.drawText(image.rect(), Qt::AlignCenter, text);
+    p.drawText(drawingArea(image), Qt::AlignCenter, text);
     return image;
 }
 

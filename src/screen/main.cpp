@@ -28,10 +28,11 @@ uint64_t clockSeed() {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // On a HiDPI screen the 540 by 378 window grows by a whole factor, its pictures pixel for
-    // pixel, rather than by a fraction that would blur them.
+    // On a HiDPI screen the 540 by 378 window grows by the screen's own factor, fractions
+    // included: its pictures come from the set drawn for that factor or the next one up, and are
+    // smoothed down to a fraction (screen/pictures.h).
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::Round);
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication app(argc, argv);
     QApplication::setApplicationName("morvane");
     QGuiApplication::setDesktopFileName("morvane");

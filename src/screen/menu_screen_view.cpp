@@ -1,7 +1,9 @@
 #include "screen/menu_screen_view.h"
 
 #include "picture_names.h"
+#include "screen/blit.h"
 #include "screen/fonts.h"
+#include "screen/pictures.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -59,7 +61,7 @@ void HoverPicture::setPicture(const QImage& picture) {
 void HoverPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
-    painter.drawImage(0, 0, picture_);
+    paintPicture(painter, picture_);
 }
 
 void HoverPicture::mouseMoveEvent(QMouseEvent*) {
@@ -82,7 +84,7 @@ void HoverPicture::mouseDoubleClickEvent(QMouseEvent* event) {
         emit doubleClicked();
 }
 
-MenuScreen::MenuScreen(QWidget* parent) : HoverPicture(QImage(pictures::kMenu), parent) {
+MenuScreen::MenuScreen(QWidget* parent) : HoverPicture(scaledPicture(pictures::kMenu), parent) {
     setGeometry(kMenuArea);
     createWordPictures();
     createSwitches();
@@ -92,7 +94,7 @@ MenuScreen::MenuScreen(QWidget* parent) : HoverPicture(QImage(pictures::kMenu), 
 void MenuScreen::createWordPictures() {
     for (int p = 0; p < kMenuPictureCount; ++p) {
         for (int index = 0; index < 2; ++index) {
-            auto* picture = new HoverPicture(QImage(kPictureNames[p][index]), this);
+            auto* picture = new HoverPicture(scaledPicture(kPictureNames[p][index]), this);
             picture->setGeometry(kPictureAreas[p]);
             if (index == 1)
                 picture->setToolTip(QString::fromUtf8(kPictureTips[p]));
@@ -109,7 +111,7 @@ void MenuScreen::createWordPictures() {
 void MenuScreen::createSwitches() {
     for (int s = 0; s < kSwitchCount; ++s) {
         for (int index = 0; index < 2; ++index) {
-            auto* picture = new HoverPicture(QImage(kSwitchNames[s][index]), this);
+            auto* picture = new HoverPicture(scaledPicture(kSwitchNames[s][index]), this);
             picture->setGeometry(kSwitchAreas[s]);
             picture->setToolTip(QString::fromUtf8(kSwitchTips[s]));
             const auto which = MenuSwitch(s);

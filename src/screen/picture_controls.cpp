@@ -1,5 +1,6 @@
 #include "screen/picture_controls.h"
 
+#include "screen/blit.h"
 #include "table/constants.h"
 
 #include <QMouseEvent>
@@ -22,7 +23,7 @@ void SurfaceView::paintEvent(QPaintEvent*) {
     if (beforePaint_)
         beforePaint_();
     QPainter painter(this);
-    painter.drawImage(0, 0, surface_);
+    paintPicture(painter, surface_);
 }
 
 void SurfaceView::mouseMoveEvent(QMouseEvent*) {
@@ -42,7 +43,7 @@ void SetPointView::syncFromState() {
 
 void SetPointView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.drawImage(0, 0, picture_);
+    paintPicture(painter, picture_);
     painter.setPen(Qt::black);
     painter.drawEllipse(QRect(0, 0, kPointBallSize - 1, kPointBallSize - 1));
     paintedLeft_ = g_.controls.pointLeft;

@@ -1,5 +1,6 @@
 #include "screen/pool_view.h"
 
+#include "screen/blit.h"
 #include "screen/fonts.h"
 #include "screen/mouse_buttons.h"
 #include "table/constants.h"
@@ -69,7 +70,7 @@ void PoolView::syncFromState() {
 
 void PoolView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.drawImage(event->rect(), view_, event->rect());
+    paintPictureArea(painter, event->rect(), view_);
     drawMarker(painter, g_.controls.qBall, kQBallRed);
     drawMarker(painter, g_.controls.target, kTargetCyan);
     paintedTarget_ = g_.controls.target;

@@ -1,6 +1,7 @@
 #include "screen/qt_screen.h"
 
 #include "picture_names.h"
+#include "screen/blit.h"
 #include "screen/forms/match_form.h"
 #include "screen/forms/name_form.h"
 #include "screen/forms/record_form.h"
@@ -9,6 +10,7 @@
 #include "screen/help_page.h"
 #include "screen/information_bar.h"
 #include "screen/message_box.h"
+#include "screen/pictures.h"
 #include "screen/table_drawing.h"
 
 #include <QMessageBox>
@@ -99,7 +101,8 @@ void QtScreen::showInputBox() {
 }
 
 void QtScreen::showChangeVsMode() {
-    MatchForm form(g_, okPicture_, QImage(pictures::kCancel), widgets_.mainWindow);
+    MatchForm form(g_, okPicture_, scaledPicture(pictures::kCancel, surfaceScale(okPicture_)),
+                   widgets_.mainWindow);
     runModal(form, onForm);
 }
 

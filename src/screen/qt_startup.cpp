@@ -4,9 +4,10 @@
 #include "screen/forms/opening_form.h"
 
 #include "picture_names.h"
+#include "screen/blit.h"
 #include "screen/fonts.h"
+#include "screen/pictures.h"
 #include "startup/menu_captions.h"
-#include "startup/program_files.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -20,13 +21,6 @@ namespace {
 constexpr const char* kSheetFile = "mv256.bmp";
 constexpr const char* kMenuFile = "mvmnu256.bmp";
 constexpr double kZephsMessagePoints = 14.25;
-
-// A picture file looked for in the current directory, then beside the program; the inner
-// picture stands in for one that can't be read.
-QImage pictureFile(const char* name, const QImage& fallback) {
-    const QImage file(QString::fromStdString(findInCurrentDirectory(name, gameDataFolders())));
-    return file.isNull() ? fallback : file.convertToFormat(fallback.format());
-}
 
 } // namespace
 
@@ -52,12 +46,11 @@ void QtStartupPlatform::showPlainMessage(const std::string& text) {
 
 void QtStartupPlatform::loadFilePictures() {
     Surfaces& s = screen_.surfaces();
-    s.picTable = pictureFile(kSheetFile, s.picTable);
-    QPainter(&s.setPoint)
-        .drawImage(QPoint(0, 0), s.picTable,
-                   QRect(kSheetCueBallX, kSheetCueBallY, kSetPointPixels, kSetPointPixels));
+    s.picTable = pictureFileOr(kSheetFile, s.picTable);
+    blitCopy(s.setPoint, 0, 0, s.picTable, kSheetCueBallX, kSheetCueBallY, kSetPointPixels,
+             kSetPointPixels);
     MenuScreen& menu = *window_.picMenu();
-    menu.setPicture(pictureFile(kMenuFile, QImage(pictures::kMenu)));
+    menu.setPicture(pictureFileOr(kMenuFile, scaledPicture(pictures::kMenu)));
 }
 
 void QtStartupPlatform::setMenuCaptions() {

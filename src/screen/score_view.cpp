@@ -2,6 +2,7 @@
 
 #include "records/record_constants.h"
 #include "records/score_text.h"
+#include "screen/blit.h"
 #include "screen/fonts.h"
 
 #include <QMouseEvent>
@@ -22,8 +23,8 @@ void printRow(QPainter& painter, const ScoreRow& row, const QImage& sheet) {
         printAt(painter, QPoint(item.x, row.y), QString::fromStdString(item.text));
     int x = kBallMarksX;
     for (int ball : row.ballMarks) {
-        painter.drawImage(
-            QPoint(x, row.y + kBallMarkDrop), sheet,
+        paintPicturePart(
+            painter, QPoint(x, row.y + kBallMarkDrop), sheet,
             QRect(kBallMarkSize * ball, kBallMarkSheetY, kBallMarkSize, kBallMarkSize));
         x += kBallMarkSize;
     }

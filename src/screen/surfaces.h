@@ -1,12 +1,13 @@
 // The picture surfaces of the main window: the sprite sheet, the ball sprites, the back buffer and
-// the view of the table, the tray of pocketed balls and the information bar.
+// the view of the table, the tray of pocketed balls and the information bar. All are of the scale
+// of the sheet they are made from; their sizes below are in the layout's pixels.
 #pragma once
 
 #include <QImage>
 
 namespace morvane {
 
-// Sizes and places in pixels.
+// Sizes and places in the layout's pixels.
 constexpr int kSheetWidth = 540;
 constexpr int kSheetHeight = 360;
 constexpr int kTableBlockHeight = 300;

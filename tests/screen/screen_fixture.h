@@ -1,8 +1,11 @@
 // A window on the offscreen platform over a sheet of plain colours, so that what a frame drew can
-// be read back pixel by pixel.
+// be read back pixel by pixel. The sheet is of the scale of the screen's set of pictures, unless a
+// test asks for another.
 #pragma once
 
+#include "screen/blit.h"
 #include "screen/main_window.h"
+#include "screen/pictures.h"
 #include "screen/qt_screen.h"
 #include "startup/scheduler.h"
 #include "table/game_state.h"
@@ -46,9 +49,8 @@ inline void paintDisc(QImage& sheet, int x, int y, QRgb disc, QRgb ground) {
 }
 
 // The layout of the table sheet, each sprite one plain colour.
-inline QImage plainSheet() {
-    QImage sheet(540, 360, QImage::Format_RGB32);
-    sheet.fill(Qt::white);
+inline QImage plainSheet(int scale = pictureScale()) {
+    QImage sheet = makeSurface(540, 360, Qt::white, scale);
     QPainter(&sheet).fillRect(0, 0, 540, 300, QColor(kCloth));
     for (int i = 0; i < 10; ++i) {
         paintDisc(sheet, 20 * i, 300, restingColour(i), qRgb(0, 0, 0));
@@ -59,10 +61,14 @@ inline QImage plainSheet() {
     return sheet;
 }
 
-inline QImage plainPicture(int w, int h, QRgb colour) {
-    QImage picture(w, h, QImage::Format_RGB32);
-    picture.fill(colour);
-    return picture;
+inline QImage plainPicture(int w, int h, QRgb colour, int scale = pictureScale()) {
+    return makeSurface(w, h, QColor(colour), scale);
+}
+
+// The colour of a surface at a pixel of the layout: the middle of the pixels it holds there.
+inline QRgb layoutPixel(const QImage& surface, int x, int y) {
+    const int s = surfaceScale(surface);
+    return surface.pixel(x * s + s / 2, y * s + s / 2) | 0xff000000;
 }
 
 class ScreenTest : public ::testing::Test {
@@ -101,8 +107,9 @@ class ScreenTest : public ::testing::Test {
         g.Balls[i].y = 1200 - (py - 30) / 0.2f;
     }
 
-    QRgb backPixel(int x, int y) { return screen->surfaces().backBuffer.pixel(x, y) | 0xff000000; }
-    QRgb trayPixel(int x, int y) { return screen->surfaces().tray.pixel(x, y) | 0xff000000; }
+    QRgb backPixel(int x, int y) { return layoutPixel(screen->surfaces().backBuffer, x, y); }
+    QRgb trayPixel(int x, int y) { return layoutPixel(screen->surfaces().tray, x, y); }
+    QRgb viewPixel(int x, int y) { return layoutPixel(screen->surfaces().view, x, y); }
 };
 
 } // namespace morvane::testing

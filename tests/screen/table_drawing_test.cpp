@@ -1,15 +1,28 @@
 // The frame as the back buffer holds it: balls over shadows over the cloth, the shadow thrown to
-// the lower right except in a pocket's mouth, and kept off the rail.
+// the lower right except in a pocket's mouth, and kept off the rail. Each case runs on surfaces
+// of scale 1 and of scale 2, with every place in the layout's pixels.
 #include "screen_fixture.h"
 
+#include "picture_names.h"
 #include "screen/table_drawing.h"
+#include "support/picture_compare.h"
+
+#include <cstring>
 
 namespace morvane::testing {
 namespace {
 
-class TableDrawingTest : public ScreenTest {};
+class TableDrawingTest : public ScreenTest, public ::testing::WithParamInterface<int> {
+  protected:
+    std::unique_ptr<QtScreen> makeScreen() override {
+        const int scale = GetParam();
+        return std::make_unique<QtScreen>(g, plainSheet(scale),
+                                          plainPicture(45, 45, qRgb(200, 200, 200), scale),
+                                          plainPicture(66, 34, qRgb(0, 0, 255), scale));
+    }
+};
 
-TEST_F(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowAtTheCentre) {
+TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowAtTheCentre) {
     putBallAtPixel(1, 270, 150);
     screen->drawTable();
     EXPECT_EQ(QPoint(262, 142), shadowCellOrigin(g.Balls[1]));
@@ -22,7 +35,7 @@ TEST_F(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowAtTheCentre) {
     EXPECT_EQ(restingColour(1), backPixel(270, 150));
 }
 
-TEST_F(TableDrawingTest, ShadowStaysUnderABallInAPocketsMouth) {
+TEST_P(TableDrawingTest, ShadowStaysUnderABallInAPocketsMouth) {
     for (QPoint mouth : {QPoint(45, 45), QPoint(270, 45)}) {
         putBallAtPixel(2, mouth.x(), mouth.y());
         screen->drawTable();
@@ -37,14 +50,14 @@ TEST_F(TableDrawingTest, ShadowStaysUnderABallInAPocketsMouth) {
     EXPECT_EQ(kShadow, backPixel(110, 45));
 }
 
-TEST_F(TableDrawingTest, ShadowIsClampedOffTheRailDeepInACorner) {
+TEST_P(TableDrawingTest, ShadowIsClampedOffTheRailDeepInACorner) {
     putBallAtPixel(3, 510, 270);
     screen->drawTable();
     EXPECT_EQ(QPoint(490, 250), shadowCellOrigin(g.Balls[3]));
     EXPECT_EQ(kShadow, backPixel(493, 253));
 }
 
-TEST_F(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumber) {
+TEST_P(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumber) {
     putBallAtPixel(4, 200, 100);
     putBallAtPixel(5, 300, 200);
     g.Balls[5].onTable = false;
@@ -54,16 +67,15 @@ TEST_F(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumbe
     EXPECT_EQ(kCloth, backPixel(300, 200));
     EXPECT_EQ(kCloth, backPixel(303, 203));
     // The view shows the same frame; its last row is the one the 299 rows leave out.
-    EXPECT_EQ(screen->surfaces().view.pixel(200, 100),
-              screen->surfaces().backBuffer.pixel(200, 100));
+    EXPECT_EQ(viewPixel(200, 100), backPixel(200, 100));
 
     // drawBallNow puts the numbered ball on the view alone, at rest.
     screen->drawBallNow(4);
-    EXPECT_EQ(restingColour(4), screen->surfaces().view.pixel(200, 100) | 0xff000000);
+    EXPECT_EQ(restingColour(4), viewPixel(200, 100));
     EXPECT_EQ(rollingColour(4), backPixel(200, 100));
 }
 
-TEST_F(TableDrawingTest, HigherNumbersLieOverLowerOnes) {
+TEST_P(TableDrawingTest, HigherNumbersLieOverLowerOnes) {
     putBallAtPixel(6, 200, 150);
     putBallAtPixel(7, 205, 150);
     screen->drawTable();
@@ -71,13 +83,12 @@ TEST_F(TableDrawingTest, HigherNumbersLieOverLowerOnes) {
     EXPECT_EQ(restingColour(6), backPixel(193, 150));
 }
 
-TEST_F(TableDrawingTest, DemoWordsStandUnderTheBalls) {
+TEST_P(TableDrawingTest, DemoWordsStandUnderTheBalls) {
     const auto demoGreenPixels = [this] {
         int n = 0;
-        const QImage& back = screen->surfaces().backBuffer;
-        for (int y = 0; y < back.height(); ++y)
-            for (int x = 0; x < back.width(); ++x)
-                n += (back.pixel(x, y) | 0xff000000) == qRgb(0, 128, 0);
+        for (int y = 0; y < 300; ++y)
+            for (int x = 0; x < 540; ++x)
+                n += backPixel(x, y) == qRgb(0, 128, 0);
         return n;
     };
     screen->drawTable();
@@ -89,7 +100,7 @@ TEST_F(TableDrawingTest, DemoWordsStandUnderTheBalls) {
     EXPECT_EQ(restingColour(1), backPixel(200, 150));
 }
 
-TEST_F(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
+TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
     for (int i = 1; i <= 9; ++i)
         putBallAtPixel(i, 100 + 20 * i, 150);
     g.Balls[9].onTable = false;
@@ -105,14 +116,14 @@ TEST_F(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
     EXPECT_EQ(kTrayGrey, trayPixel(171, 11));
 }
 
-TEST_F(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
+TEST_P(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
     screen->drawTable();
     screen->drawBallDrop(3, 6); // the bottom right pocket: table (2397, 3) is pixel (509.4, 269.4)
-    EXPECT_EQ(restingColour(3), screen->surfaces().view.pixel(509, 269) | 0xff000000);
+    EXPECT_EQ(restingColour(3), viewPixel(509, 269));
     EXPECT_EQ(kCloth, backPixel(509, 269));
 }
 
-TEST_F(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
+TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
     putBallAtPixel(1, 200, 150);
     screen->drawTable();
     g.controls.target = {300, 100, true}; // the cyan circle's box is 300..319 by 100..119
@@ -127,6 +138,80 @@ TEST_F(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
     window->syncControlsFromState();
     shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(qRgb(255, 0, 0), shown.pixel(190, 150) | 0xff000000);
+}
+
+INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),
+                         [](const auto& info) { return std::to_string(info.param) + "x"; });
+
+// The same frame on the game's own sheet, at scale 1 and scale 2.
+class SheetFrameTest : public ScreenTest {
+  protected:
+    void placeBalls() {
+        putBallAtPixel(0, 140, 150);
+        putBallAtPixel(1, 390, 150);
+        putBallAtPixel(5, 45, 45); // in a corner pocket's mouth: the shadow falls straight under
+        putBallAtPixel(9, 403.3f, 141.6f);
+        g.Balls[9].speed = 2;
+        putBallAtPixel(7, 510, 270);
+    }
+
+    static Surfaces sheetSurfaces(int scale) {
+        return makeSurfaces(scaledPicture(pictures::kTable, scale),
+                            scaledPicture(pictures::kSetPoint, scale));
+    }
+};
+
+// At scale 1 a sprite is a mask ANDed and a ball XORed straight onto the 32-bit surface, one
+// raster operation each, so the frame is the same to the bit as it has always been.
+TEST_F(SheetFrameTest, AtScaleOneEachSpriteIsOneAndAndOneXorOnTheSurface) {
+    placeBalls();
+    Surfaces s = sheetSurfaces(1);
+    drawTableFrame(g, s);
+
+    QImage expected = s.picTable.copy(0, 0, kSheetWidth, kTableBlockHeight);
+    QPainter p(&expected);
+    const auto stamp = [&](QPoint at, QPoint cell) {
+        p.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
+        p.drawImage(at, s.picBalls, QRect(kMaskX, kMaskY, kCell, kCell));
+        p.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+        p.drawImage(at, s.picBalls, QRect(cell, QSize(kCell, kCell)));
+    };
+    for (const BallType& ball : g.Balls)
+        if (ball.onTable)
+            stamp(shadowCellOrigin(ball), QPoint(kShadowX, kShadowY));
+    for (int i = 0; i < kBallCount; ++i)
+        if (g.Balls[i].onTable)
+            stamp(ballCellOrigin(g.Balls[i]),
+                  QPoint(kCell * i, g.Balls[i].speed != 0 ? kRollingRow : kRestingRow));
+    p.end();
+
+    ASSERT_EQ(expected.size(), s.backBuffer.size());
+    ASSERT_EQ(expected.bytesPerLine(), s.backBuffer.bytesPerLine());
+    EXPECT_EQ(0, std::memcmp(expected.constBits(), s.backBuffer.constBits(),
+                             size_t(expected.sizeInBytes())));
+}
+
+// At scale 2 the frame has four pixels for each, and shows the same picture: every ball and
+// shadow in its place, only finer.
+TEST_F(SheetFrameTest, AtScaleTwoTheFrameIsTheSamePictureFiner) {
+    placeBalls();
+    Surfaces one = sheetSurfaces(1);
+    Surfaces two = sheetSurfaces(2);
+    drawTableFrame(g, one);
+    drawTableFrame(g, two);
+    ASSERT_EQ(QSize(1080, 600), two.backBuffer.size());
+    EXPECT_EQ(2.0, two.backBuffer.devicePixelRatio());
+    EXPECT_LT(meanDifference(one.backBuffer, two.backBuffer, 2), 1.0);
+    for (const BallType& ball : g.Balls) {
+        if (!ball.onTable)
+            continue;
+        const QRect cell(ballCellOrigin(ball), QSize(kCell, kCell));
+        const QRect shadow(shadowCellOrigin(ball), QSize(kCell, kCell));
+        EXPECT_LT(meanDifference(one.backBuffer, two.backBuffer, 2, cell.united(shadow)), 12.0)
+            << "ball at " << cell.x() << "," << cell.y();
+    }
+    EXPECT_EQ(layoutPixel(one.backBuffer, 270, 100), layoutPixel(two.backBuffer, 270, 100))
+        << "the flat cloth is the same colour";
 }
 
 } // namespace

@@ -1,33 +1,23 @@
 #include "screen/forms/opening_form.h"
 
 #include "picture_names.h"
+#include "screen/blit.h"
 #include "screen/forms/form_parts.h"
+#include "screen/pictures.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QPainter>
 #include <utility>
 
 namespace morvane {
-
-QImage loadPictureFile(const QString& fileName) {
-    for (const QString& folder : {QDir::currentPath(), QCoreApplication::applicationDirPath()}) {
-        const QImage picture(QDir(folder).filePath(fileName));
-        if (!picture.isNull())
-            return picture;
-    }
-    return QImage();
-}
 
 OpeningForm::OpeningForm(const GameState& g, std::function<void()> showMainWindow, QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), Timer1_(new QTimer(this)),
       showMainWindow_(std::move(showMainWindow)) {
     // The 256-colour set, when chosen, has its own file; the form's own picture stands in for it
     // if the file can't be read.
+    picture_ = scaledPicture(pictures::kOpening);
     if (g.hiColor != -1)
-        picture_ = loadPictureFile(kOpeningFile256);
-    if (picture_.isNull())
-        picture_ = QImage(pictures::kOpening);
+        picture_ = pictureFileOr(kOpeningFile256, picture_);
     setFixedSize(kOpeningWidth, kOpeningHeight);
     centreOnScreen(*this);
 
@@ -54,7 +44,8 @@ void OpeningForm::unloadAndShowMain() {
 }
 
 void OpeningForm::paintEvent(QPaintEvent*) {
-    QPainter(this).drawImage(0, 0, picture_);
+    QPainter painter(this);
+    paintPicture(painter, picture_);
 }
 
 void OpeningForm::mousePressEvent(QMouseEvent*) {

@@ -19,10 +19,6 @@ constexpr int kOpeningTickMs = 1000;
 constexpr int kOpeningLastCount = 5;
 inline constexpr const char* kOpeningFile256 = "mvopn256.bmp";
 
-// A picture file looked for in the current folder and then beside the program; null if neither
-// holds a readable one.
-QImage loadPictureFile(const QString& fileName);
-
 class OpeningForm : public QWidget {
     Q_OBJECT
   public:

@@ -54,7 +54,7 @@ RecordForm::RecordForm(const GameState& g, const QImage& picBalls, const QImage&
                        QWidget* parent)
     : QDialog(parent), g_(g), picBalls_(picBalls), picOK_(new PictureButton(okPicture, this)) {
     setUpForm(*this, QStringLiteral("Your Record"), QSize(kFormWidthTwips, kFormHeightTwips));
-    surface_ = makeSurface(width(), height());
+    surface_ = makeSurface(width(), height(), Qt::black, surfaceScale(picBalls_));
     picOK_->move((width() - picOK_->width()) / 2, height() - picOK_->height() - kOkMargin);
     connect(picOK_, &PictureButton::clicked, this, &RecordForm::picOK_Click);
     centreOnScreen(*this);
@@ -67,7 +67,8 @@ void RecordForm::picOK_Click() {
 
 void RecordForm::paintEvent(QPaintEvent*) {
     drawRecordForm();
-    QPainter(this).drawImage(0, 0, surface_);
+    QPainter painter(this);
+    paintPicture(painter, surface_);
 }
 
 void RecordForm::drawRecordForm() {

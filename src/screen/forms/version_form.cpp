@@ -5,6 +5,7 @@
 #include "picture_names.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
+#include "screen/pictures.h"
 #include "table/text.h"
 
 #include <cmath>
@@ -44,8 +45,9 @@ int zephBlinkFrame(int c) {
 }
 
 VersionForm::VersionForm(const GameState& g, QWidget* mainWindow)
-    : QDialog(mainWindow), face_(QImage(pictures::kZeph).convertToFormat(QImage::Format_RGB32)),
-      picZephs_(QImage(pictures::kZephFrames)), Timer1_(new QTimer(this)) {
+    : QDialog(mainWindow),
+      face_(scaledPicture(pictures::kZeph).convertToFormat(QImage::Format_RGB32)),
+      picZephs_(scaledPicture(pictures::kZephFrames)), Timer1_(new QTimer(this)) {
     setUpForm(*this, QStringLiteral("バージョン情報"), QSize(kFormWidthTwips, kFormHeightTwips));
     const QRect screen = screenArea();
     const int freeHeight = int(std::nearbyint((screen.height() - height()) * kHeightAboveForm));
