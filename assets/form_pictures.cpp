@@ -1,6 +1,7 @@
 #include "form_pictures.h"
 
 #include "ball_art.h"
+#include "game/version.h"
 #include "text_art.h"
 
 #include <QLinearGradient>
@@ -52,7 +53,7 @@ void paintCredits(QPainter& p) {
     p.setPen(kCredit);
     p.setFont(gameFont(11, true));
     p.drawText(QRect(0, 140, kOpeningWidth, 14), Qt::AlignCenter,
-               QStringLiteral("Ver.3.02  Program by zeph"));
+               QString("Ver.%1  Program by zeph").arg(morvane::kVersion));
     p.drawText(QRect(0, 153, kOpeningWidth, 14), Qt::AlignCenter,
                QStringLiteral("BGMs by lirra 1998"));
 }

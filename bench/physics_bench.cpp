@@ -1,11 +1,11 @@
 // The cost of the motion engine: one frame of a break's scatter, one frame of an ordinary shot,
 // and a whole full-power break from the launch to rest.
-#include "table/break_run.h"
-#include "table/launch.h"
-#include "table/motion.h"
-#include "table/rack.h"
-#include "table/shot_input.h"
-#include "table/table_queries.h"
+#include "game/break_run.h"
+#include "game/contact_effects.h"
+#include "game/racking.h"
+#include "game/shot_button.h"
+#include "game/shot_input.h"
+#include "game/table_queries.h"
 
 #include <benchmark/benchmark.h>
 
@@ -68,7 +68,7 @@ void timeFrameFrom(benchmark::State& state, const GameState& start) {
         g.Balls = start.Balls;
         g.pocketedCount = 0;
         g.firstHitPending = start.firstHitPending;
-        runFrame(g);
+        playFrame(g);
         benchmark::DoNotOptimize(g.Balls);
     }
     state.counters["contacts/frame"] =
@@ -86,7 +86,7 @@ void BM_FrameDuringBreakScatter(benchmark::State& state) {
         ContactCounter counter;
         g.ports.contacts = &counter;
         const GameState before = g;
-        runFrame(g);
+        playFrame(g);
         if (counter.contacts > most) {
             most = counter.contacts;
             busiest = before;

@@ -1,8 +1,8 @@
 // What sound costs the game: how long after the contact its click reaches the mix, how long
 // opening a tune holds up the tick that asks for it, and how much processor a tune takes while
 // it plays. The dummy and disk drivers keep the pace of a real device.
+#include "game/sounds.h"
 #include "sound/sdl_sound.h"
-#include "table/sounds.h"
 
 #include <SDL.h>
 #include <SDL_mixer.h>

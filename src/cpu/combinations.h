@@ -3,7 +3,7 @@
 
 #include "cpu/cpu_constants.h"
 #include "cpu/shot_plan.h"
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <array>
 

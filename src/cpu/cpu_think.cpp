@@ -1,9 +1,9 @@
 #include "cpu/cpu_think.h"
 
 #include "cpu/shot_choice.h"
-#include "table/controls.h"
-#include "table/shot_input.h"
-#include "table/table_queries.h"
+#include "game/controls.h"
+#include "game/shot_input.h"
+#include "game/table_queries.h"
 
 namespace morvane {
 

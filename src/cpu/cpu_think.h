@@ -2,7 +2,7 @@
 // spoiled aim, all put on the controls for the player to see.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

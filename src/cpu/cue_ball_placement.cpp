@@ -3,9 +3,9 @@
 #include "cpu/cpu_constants.h"
 #include "cpu/shot_geometry.h"
 #include "cpu/shot_plan.h"
-#include "table/controls.h"
-#include "table/table_queries.h"
-#include "table/view_coords.h"
+#include "game/controls.h"
+#include "game/table_queries.h"
+#include "game/view_coords.h"
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 // set down for a straight shot.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,7 +1,7 @@
 // zeph's level, 1 to 11, and its growth as the human wins matches against it.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

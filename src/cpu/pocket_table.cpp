@@ -1,41 +1,42 @@
 #include "cpu/pocket_table.h"
 
 #include "cpu/cpu_constants.h"
+#include "table/pockets.h"
 
 namespace morvane {
 
 void initPocketTable(GameState& g) {
     auto& p = g.pocketTable;
-    p[1] = {kCushionLeftX, kCushionTopY};
-    p[2] = {kTableMiddleX, kCushionTopY};
-    p[3] = {kCushionRightX, kCushionTopY};
-    p[4] = {kCushionLeftX, kCushionBottomY};
-    p[5] = {kTableMiddleX, kCushionBottomY};
-    p[6] = {kCushionRightX, kCushionBottomY};
+    p[kPocketTopLeft] = {kCushionLeftX, kCushionTopY};
+    p[kPocketTopMiddle] = {kTableMiddleX, kCushionTopY};
+    p[kPocketTopRight] = {kCushionRightX, kCushionTopY};
+    p[kPocketBottomLeft] = {kCushionLeftX, kCushionBottomY};
+    p[kPocketBottomMiddle] = {kTableMiddleX, kCushionBottomY};
+    p[kPocketBottomRight] = {kCushionRightX, kCushionBottomY};
 }
 
 void mirrorPockets(GameState& g, int16_t cushion) {
     auto& p = g.pocketTable;
     switch (cushion) {
     case kCushionLeft:
-        p[7] = {float(double(kCushionLeftX) - p[3].x), p[3].y};
-        p[8] = {float(double(kCushionLeftX) - p[6].x), p[6].y};
+        p[7] = {float(double(kCushionLeftX) - p[kPocketTopRight].x), p[kPocketTopRight].y};
+        p[8] = {float(double(kCushionLeftX) - p[kPocketBottomRight].x), p[kPocketBottomRight].y};
         p[9] = p[8];
         break;
     case kCushionRight:
-        p[7] = {float(double(p[3].x) + kCushionRightX), p[1].y};
-        p[8] = {float(double(p[6].x) + kCushionRightX), p[4].y};
+        p[7] = {float(double(p[kPocketTopRight].x) + kCushionRightX), p[kPocketTopLeft].y};
+        p[8] = {float(double(p[kPocketBottomRight].x) + kCushionRightX), p[kPocketBottomLeft].y};
         p[9] = p[8];
         break;
     case kCushionTop:
-        p[7] = {p[4].x, float(double(p[1].y) + kCushionTopY)};
-        p[8] = {p[5].x, kImageTopY};
-        p[9] = {p[6].x, kImageTopY};
+        p[7] = {p[kPocketBottomLeft].x, float(double(p[kPocketTopLeft].y) + kCushionTopY)};
+        p[8] = {p[kPocketBottomMiddle].x, kImageTopY};
+        p[9] = {p[kPocketBottomRight].x, kImageTopY};
         break;
     case kCushionBottom:
-        p[7] = {p[1].x, float(double(kCushionBottomY) - p[1].y)};
-        p[8] = {p[2].x, kImageBottomY};
-        p[9] = {p[3].x, kImageBottomY};
+        p[7] = {p[kPocketTopLeft].x, float(double(kCushionBottomY) - p[kPocketTopLeft].y)};
+        p[8] = {p[kPocketTopMiddle].x, kImageBottomY};
+        p[9] = {p[kPocketTopRight].x, kImageBottomY};
         break;
     default:
         break;

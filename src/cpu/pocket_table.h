@@ -2,7 +2,7 @@
 // cushion.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <cstdint>
 

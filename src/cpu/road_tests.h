@@ -2,7 +2,7 @@
 // between centres, so a ball stands on a road when its centre lies nearer than that to the line.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 // Vectors, the cut angle, the ghost point and the places on the table that zeph measures with.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 #include "table/geometry.h"
 
 namespace morvane {

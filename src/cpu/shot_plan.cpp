@@ -2,9 +2,9 @@
 
 #include "cpu/road_tests.h"
 #include "cpu/shot_geometry.h"
+#include "game/table_queries.h"
+#include "game/text.h"
 #include "table/geometry.h"
-#include "table/table_queries.h"
-#include "table/text.h"
 
 namespace morvane {
 

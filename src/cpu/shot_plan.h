@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cpu/cpu_constants.h"
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

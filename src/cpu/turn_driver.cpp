@@ -4,9 +4,9 @@
 #include "cpu/cpu_think.h"
 #include "cpu/cue_ball_placement.h"
 #include "cpu/shot_plan.h"
-#include "table/controls.h"
-#include "table/launch.h"
-#include "table/timers.h"
+#include "game/controls.h"
+#include "game/shot_button.h"
+#include "game/timers.h"
 
 namespace morvane {
 

@@ -2,7 +2,7 @@
 // decision, the aim and the power on show, the remark fading, the shot.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

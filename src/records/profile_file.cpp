@@ -1,7 +1,7 @@
 #include "records/profile_file.h"
 
+#include "game/text.h"
 #include "records/atomic_file.h"
-#include "table/text.h"
 
 #include <algorithm>
 #include <limits>

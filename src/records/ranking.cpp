@@ -1,10 +1,10 @@
 #include "records/ranking.h"
 
+#include "game/table_queries.h"
+#include "game/text.h"
 #include "records/integer16.h"
 #include "records/record_constants.h"
 #include "records/score_file.h"
-#include "table/table_queries.h"
-#include "table/text.h"
 
 #include <cstdio>
 #include <initializer_list>

@@ -1,7 +1,7 @@
 // The order of the two record tables and the entry of a new game or match into them.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -1,10 +1,10 @@
 #include "records/score_file.h"
 
+#include "game/text.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
 #include "records/record_constants.h"
-#include "table/text.h"
 
 #include <algorithm>
 #include <array>

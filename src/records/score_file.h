@@ -1,7 +1,7 @@
 // The score file MVSCORE.INI: the solo table, the table of matches against zeph, and zeph's level.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 // with the ball marks of the solo table. The screen prints them; the wording is decided here.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 #include <vector>

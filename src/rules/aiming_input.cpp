@@ -1,7 +1,7 @@
 #include "rules/aiming_input.h"
 
-#include "table/controls.h"
-#include "table/view_coords.h"
+#include "game/controls.h"
+#include "game/view_coords.h"
 
 namespace morvane {
 

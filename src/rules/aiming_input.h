@@ -2,7 +2,7 @@
 // Coordinates are pixels of the view; any button counts.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,11 +1,11 @@
 #include "rules/demo.h"
 
+#include "game/racking.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
 #include "rules/match.h"
 #include "rules/modes.h"
 #include "rules/new_game.h"
-#include "table/rack.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
 
 namespace morvane {
 

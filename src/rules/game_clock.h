@@ -1,7 +1,7 @@
 // The game clock: a second of play a tick, from the first shot to the end of the game.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,16 +1,16 @@
 #include "rules/game_over.h"
 
 #include "cpu/level.h"
+#include "game/controls.h"
+#include "game/shot_input.h"
+#include "game/table_queries.h"
+#include "game/text.h"
+#include "game/timers.h"
 #include "records/ranking.h"
 #include "records/score_file.h"
 #include "rules/match.h"
 #include "rules/modes.h"
 #include "rules/new_game.h"
-#include "table/controls.h"
-#include "table/shot_input.h"
-#include "table/table_queries.h"
-#include "table/text.h"
-#include "table/timers.h"
 
 namespace morvane {
 

@@ -2,7 +2,7 @@
 // versus, the way back to the menu in the demo; and in every mode a fresh rack.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

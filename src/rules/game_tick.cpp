@@ -1,11 +1,11 @@
 #include "rules/game_tick.h"
 
+#include "game/break_run.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
 #include "rules/game_over.h"
 #include "rules/next_shot.h"
 #include "rules/shot_judging.h"
-#include "table/break_run.h"
-#include "table/table_queries.h"
-#include "table/timers.h"
 
 namespace morvane {
 

@@ -1,7 +1,7 @@
 // The game tick: one frame of a rolling shot, and the judging of it once all balls rest.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,10 +1,10 @@
 #include "rules/match.h"
 
+#include "game/racking.h"
+#include "game/table_queries.h"
+#include "game/text.h"
 #include "rules/modes.h"
 #include "rules/new_game.h"
-#include "table/rack.h"
-#include "table/table_queries.h"
-#include "table/text.h"
 
 namespace morvane {
 

@@ -1,7 +1,7 @@
 // Matches: the sides and their names, who breaks, the caption of the shot button.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

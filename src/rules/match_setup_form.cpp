@@ -1,8 +1,8 @@
 #include "rules/match_setup_form.h"
 
+#include "game/text.h"
 #include "rules/match.h"
 #include "rules/modes.h"
-#include "table/text.h"
 
 namespace morvane {
 

@@ -3,7 +3,7 @@
 // call these.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 // double click that reads the solo records again; and the record screen's three ways in and out.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,13 +1,13 @@
 #include "rules/modes.h"
 
+#include "game/racking.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
+#include "game/view_coords.h"
 #include "rules/match.h"
 #include "rules/new_game.h"
 #include "rules/scenes.h"
 #include "rules/undo.h"
-#include "table/rack.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
-#include "table/view_coords.h"
 
 namespace morvane {
 

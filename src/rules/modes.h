@@ -2,7 +2,7 @@
 // game, the hidden menu's mode entries, and the way back to the menu.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,8 +1,8 @@
 #include "rules/music.h"
 
-#include "table/table_queries.h"
-#include "table/timers.h"
-#include "table/version.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
+#include "game/version.h"
 
 namespace morvane {
 

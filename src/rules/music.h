@@ -4,7 +4,7 @@
 // its own ticks.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

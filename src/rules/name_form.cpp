@@ -1,6 +1,6 @@
 #include "rules/name_form.h"
 
-#include "table/text.h"
+#include "game/text.h"
 
 namespace morvane {
 

@@ -2,7 +2,7 @@
 // solo table however it is closed.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -1,10 +1,10 @@
 #include "rules/new_game.h"
 
-#include "table/controls.h"
-#include "table/rack.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
-#include "table/view_coords.h"
+#include "game/controls.h"
+#include "game/racking.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
+#include "game/view_coords.h"
 
 namespace morvane {
 

@@ -1,7 +1,7 @@
 // A fresh rack with all counters cleared, waiting for the break.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,11 +1,11 @@
 #include "rules/next_shot.h"
 
+#include "game/controls.h"
+#include "game/shot_input.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
+#include "game/view_coords.h"
 #include "rules/match.h"
-#include "table/controls.h"
-#include "table/shot_input.h"
-#include "table/table_queries.h"
-#include "table/timers.h"
-#include "table/view_coords.h"
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 // when zeph is to shoot, its turn.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,7 +1,7 @@
 // Which music the screen wants: 0 menu, 1 records, 2 solo, 3 against zeph, 4 two players.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

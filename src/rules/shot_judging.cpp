@@ -1,6 +1,6 @@
 #include "rules/shot_judging.h"
 
-#include "table/table_queries.h"
+#include "game/table_queries.h"
 
 namespace morvane {
 

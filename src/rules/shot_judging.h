@@ -1,7 +1,7 @@
 // The judging of a shot when all balls rest: fouls, the put-back of what fell, the nine.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -1,9 +1,10 @@
 #include "rules/undo.h"
 
+#include "game/shot_input.h"
 #include "rules/new_game.h"
 #include "rules/next_shot.h"
 #include "rules/shot_judging.h"
-#include "table/shot_input.h"
+#include "table/pockets.h"
 
 namespace morvane {
 
@@ -35,17 +36,17 @@ void mnuRetry_Click(GameState& g) {
 
 std::string getPocketName(int16_t PN) {
     switch (PN) {
-    case 1:
+    case kPocketTopLeft:
         return "左上のポケット";
-    case 2:
+    case kPocketTopMiddle:
         return "上の真ん中のポケット";
-    case 3:
+    case kPocketTopRight:
         return "右上のポケット";
-    case 4:
+    case kPocketBottomLeft:
         return "左下のポケット";
-    case 5:
+    case kPocketBottomMiddle:
         return "下の真ん中のポケット";
-    case 6:
+    case kPocketBottomRight:
         return "右下のポケット";
     default:
         return "";

@@ -1,7 +1,7 @@
 // Back: the last shot taken back, paid for with a shot, a turn and a foul.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

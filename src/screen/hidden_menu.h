@@ -3,8 +3,8 @@
 // table and the ball picture, where the right button plays) opens the whole tree as a pop-up.
 #pragma once
 
+#include "game/game_state.h"
 #include "startup/menu_captions.h"
-#include "table/game_state.h"
 
 #include <QAction>
 #include <QMenu>

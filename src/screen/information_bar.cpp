@@ -1,9 +1,9 @@
 #include "screen/information_bar.h"
 
+#include "game/table_queries.h"
+#include "game/text.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
-#include "table/table_queries.h"
-#include "table/text.h"
 
 #include <QPainter>
 

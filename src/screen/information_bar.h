@@ -2,8 +2,8 @@
 // hit next. It is drawn whole every time.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/surfaces.h"
-#include "table/game_state.h"
 
 #include <string>
 

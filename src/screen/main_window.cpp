@@ -1,5 +1,9 @@
 #include "screen/main_window.h"
 
+#include "game/shot_button.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
+#include "game/view_coords.h"
 #include "rules/aiming_input.h"
 #include "rules/demo.h"
 #include "rules/menu_screen.h"
@@ -10,10 +14,6 @@
 #include "screen/information_bar.h"
 #include "screen/menu_hover.h"
 #include "startup/settings.h"
-#include "table/launch.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
-#include "table/view_coords.h"
 
 #include <QCloseEvent>
 #include <QContextMenuEvent>

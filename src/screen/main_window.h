@@ -5,13 +5,13 @@
 // are brought into line with the state in one place.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/hidden_menu.h"
 #include "screen/menu_screen_view.h"
 #include "screen/picture_controls.h"
 #include "screen/pool_view.h"
 #include "screen/qt_screen.h"
 #include "screen/score_view.h"
-#include "table/game_state.h"
 
 #include <QLabel>
 #include <QPushButton>

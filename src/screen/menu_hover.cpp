@@ -1,6 +1,6 @@
 #include "screen/menu_hover.h"
 
-#include "table/timers.h"
+#include "game/timers.h"
 
 namespace morvane {
 

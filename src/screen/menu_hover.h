@@ -2,7 +2,7 @@
 // has left it, so the form, the table view and the information bar put them back to rest.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -3,9 +3,9 @@
 // mouse event as a call and shows what the game state says.
 #pragma once
 
+#include "game/game_state.h"
 #include "rules/menu_screen.h"
 #include "screen/picture_controls.h"
-#include "table/game_state.h"
 
 #include <QImage>
 #include <QWidget>

@@ -1,10 +1,10 @@
 #include "screen/message_box.h"
 
+#include "game/text.h"
+#include "game/view_coords.h"
 #include "records/integer16.h"
 #include "screen/fonts.h"
 #include "screen/forms/form_parts.h"
-#include "table/text.h"
-#include "table/view_coords.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

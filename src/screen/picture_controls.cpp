@@ -1,5 +1,6 @@
 #include "screen/picture_controls.h"
 
+#include "game/shot_input.h"
 #include "screen/blit.h"
 #include "table/constants.h"
 

@@ -2,7 +2,7 @@
 // selector, and the hover labels at the top right. They forward their events and keep no state.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <QLabel>
 #include <QWidget>

@@ -1,9 +1,9 @@
 #include "screen/pool_view.h"
 
+#include "game/view_coords.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
 #include "screen/mouse_buttons.h"
-#include "table/constants.h"
 
 #include <QPaintEvent>
 #include <QPainter>

@@ -2,7 +2,7 @@
 // hands the mouse to the handlers. It keeps no state of the game.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <QLabel>
 #include <QWidget>

@@ -2,8 +2,8 @@
 // message box, on Qt surfaces and widgets.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/surfaces.h"
-#include "table/game_state.h"
 
 #include <QPointer>
 #include <QWidget>

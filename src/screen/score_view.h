@@ -2,8 +2,8 @@
 // right. A click on the label leaves for the menu; a click anywhere else closes the screen.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/picture_controls.h"
-#include "table/game_state.h"
 
 #include <QImage>
 #include <QWidget>

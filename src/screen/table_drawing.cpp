@@ -1,9 +1,10 @@
 #include "screen/table_drawing.h"
 
+#include "game/text.h"
+#include "game/view_coords.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
-#include "table/text.h"
-#include "table/view_coords.h"
+#include "table/pockets.h"
 
 #include <QPainter>
 #include <cmath>
@@ -114,9 +115,9 @@ void drawBallOnView(const GameState& g, Surfaces& s, int i) {
 }
 
 void drawBallDropOnView(Surfaces& s, int n, int pocket) {
-    if (pocket < 1 || pocket > 6)
+    if (pocket < kPocketTopLeft || pocket > kPocketBottomRight)
         return;
-    const DropPath& path = kDropPaths[pocket - 1];
+    const DropPath& path = kDropPaths[pocket - kPocketTopLeft];
     for (int k = 0; k < kDropStamps; ++k) {
         const float x = float(path.x + path.dx * k * kDropStep);
         const float y = float(path.y + path.dy * k * kDropStep);

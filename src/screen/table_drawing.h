@@ -2,8 +2,8 @@
 // buffer; the finished frame goes to the view in one copy. Also the tray of pocketed balls.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/surfaces.h"
-#include "table/game_state.h"
 
 namespace morvane {
 

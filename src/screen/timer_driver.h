@@ -3,7 +3,7 @@
 // every game tick, when it started and what it cost, to the file named by MORVANE_TICK_LOG.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,10 +1,10 @@
 #include "sim/demo_command.h"
 
 #include "cpu/cpu_constants.h"
+#include "game/table_queries.h"
+#include "game/text.h"
 #include "rules/demo.h"
 #include "sim/command_options.h"
-#include "table/table_queries.h"
-#include "table/text.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

@@ -1,9 +1,9 @@
 #include "sim/headless_screen.h"
 
+#include "game/table_queries.h"
+#include "game/text.h"
 #include "rules/match_setup_form.h"
 #include "rules/name_form.h"
-#include "table/table_queries.h"
-#include "table/text.h"
 
 #include <utility>
 

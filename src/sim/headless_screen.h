@@ -2,7 +2,7 @@
 // what the end-of-game forms showed, and answers every modal form at once as a person would.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <array>
 #include <optional>

@@ -4,9 +4,9 @@
 // game's folder), ending on the menu. Time is virtual: the timers fire as fast as they come.
 #pragma once
 
+#include "game/game_state.h"
 #include "sim/headless_screen.h"
 #include "startup/local_clock.h"
-#include "table/game_state.h"
 
 #include <cstdint>
 

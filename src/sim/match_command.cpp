@@ -1,11 +1,11 @@
 #include "sim/match_command.h"
 
 #include "cpu/cpu_constants.h"
+#include "game/text.h"
 #include "rules/modes.h"
 #include "sim/command_options.h"
 #include "sim/played_game.h"
 #include "sim/records_json.h"
-#include "table/text.h"
 
 #include <ostream>
 

@@ -1,8 +1,8 @@
 #include "sim/play_watch.h"
 
 #include "cpu/cpu_constants.h"
-#include "table/table_queries.h"
-#include "table/timers.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
 
 #include <array>
 

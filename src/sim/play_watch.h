@@ -2,7 +2,7 @@
 // and end, and which of zeph's strategies gave the plan of each decision.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <map>
 #include <string>

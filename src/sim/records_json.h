@@ -1,8 +1,8 @@
 // The two record tables in JSON, and which row a game or match just ended has entered.
 #pragma once
 
+#include "game/game_state.h"
 #include "records/record_constants.h"
-#include "table/game_state.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,12 +1,12 @@
 #include "sim/shot_command.h"
 
+#include "game/break_run.h"
+#include "game/racking.h"
+#include "game/shot_button.h"
+#include "game/shot_input.h"
+#include "game/table_queries.h"
 #include "sim/command_options.h"
 #include "sim/table_json.h"
-#include "table/break_run.h"
-#include "table/launch.h"
-#include "table/rack.h"
-#include "table/shot_input.h"
-#include "table/table_queries.h"
 
 #include <cmath>
 #include <ostream>

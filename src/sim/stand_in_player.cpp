@@ -1,7 +1,7 @@
 #include "sim/stand_in_player.h"
 
-#include "table/table_queries.h"
-#include "table/timers.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
 
 namespace morvane::sim {
 

@@ -3,7 +3,7 @@
 // its level back once the shot is away, before any game or match can end.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane::sim {
 

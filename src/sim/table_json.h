@@ -2,7 +2,7 @@
 // Each reader returns an empty text when all is well, else one line naming the field at fault.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <nlohmann/json.hpp>
 

@@ -3,12 +3,12 @@
 #include "cpu/cpu_constants.h"
 #include "cpu/shot_choice.h"
 #include "cpu/turn_driver.h"
+#include "game/racking.h"
+#include "game/table_queries.h"
 #include "sim/command_options.h"
 #include "sim/headless_session.h"
 #include "sim/play_watch.h"
 #include "sim/table_json.h"
-#include "table/rack.h"
-#include "table/table_queries.h"
 
 #include <ostream>
 

@@ -1,6 +1,6 @@
 #include "sound/effect_channel.h"
 
-#include "table/sounds.h"
+#include "game/sounds.h"
 
 #include <SDL_mixer.h>
 

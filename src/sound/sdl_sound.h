@@ -2,11 +2,11 @@
 // Without an audio device, or without a file, it stays silent and says so once on stderr.
 #pragma once
 
+#include "game/ports.h"
 #include "sound/effect_channel.h"
 #include "sound/mixer_device.h"
 #include "sound/music_tracks.h"
 #include "sound/warn_once.h"
-#include "table/ports.h"
 
 #include <filesystem>
 #include <iostream>

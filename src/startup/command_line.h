@@ -1,7 +1,7 @@
 // The switches of the command line, found anywhere in it and in any case.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -1,6 +1,9 @@
 #include "startup/form_load.h"
 
 #include "cpu/pocket_table.h"
+#include "game/racking.h"
+#include "game/timers.h"
+#include "game/version.h"
 #include "records/score_file.h"
 #include "rules/match.h"
 #include "rules/modes.h"
@@ -10,9 +13,6 @@
 #include "startup/menu_captions.h"
 #include "startup/scheduler.h"
 #include "startup/settings.h"
-#include "table/rack.h"
-#include "table/timers.h"
-#include "table/version.h"
 
 namespace morvane {
 

@@ -1,7 +1,7 @@
 // The start of the program from end to end, in its fixed order, and the one way out.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // The calendar of the machine: today's local date, for the dates of the records.
 #pragma once
 
-#include "table/ports.h"
+#include "game/ports.h"
 
 namespace morvane {
 

@@ -1,12 +1,12 @@
 #include "startup/scheduler.h"
 
 #include "cpu/turn_driver.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
 #include "rules/demo.h"
 #include "rules/game_clock.h"
 #include "rules/game_tick.h"
 #include "rules/music.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
 
 namespace morvane {
 

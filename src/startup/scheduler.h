@@ -5,7 +5,7 @@
 // while its own handler is still running (a modal form shown by a handler lets the others tick).
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <cstdint>
 

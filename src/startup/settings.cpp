@@ -1,10 +1,10 @@
 #include "startup/settings.h"
 
+#include "game/text.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
 #include "rules/music.h"
-#include "table/text.h"
 
 namespace morvane {
 

@@ -2,7 +2,7 @@
 // to run: music, sound effects and the set of pictures.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

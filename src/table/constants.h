@@ -68,30 +68,8 @@ constexpr double kBreakDrawShare = 0.5;   // the cue ball keeps half its draw
 constexpr double kBreakSideDivisor = 8;   // and an eighth of its side spin, across
 constexpr double kBreakObjectSideDivisor = 2;
 
-// The break swing: a quarter turn of phase in ten ticks, up to pi / 5.6 either side, and a jitter
-// of up to a quarter of a degree.
-constexpr double kSwingPhaseStep = kPi / 20;
-constexpr double kSwingReach = kPi / 5.6;
-constexpr double kSwingJitter = kPi / 360;
-constexpr float kSwingRadius = 100;
-constexpr float kSwingMarkerOffset = 10; // the marker stands this much nearer the head
-
 // Power bar.
 constexpr int16_t kPowerMin = 35;
 constexpr int16_t kPowerMax = 100;
-
-// Table view, in pixels.
-constexpr float kTableScaleX = 480.0f / 2400.0f;
-constexpr float kTableScaleY = 240.0f / 1200.0f;
-constexpr float kBallPixels = 20;
-constexpr float kViewMargin = 30;
-constexpr float kAimPixelMinX = 40;
-constexpr float kAimPixelMaxX = 500;
-constexpr float kAimPixelMinY = 40;
-constexpr float kAimPixelMaxY = 260;
-
-// Hit point selector, in pixels of its picture.
-constexpr float kSetPointSize = 45;
-constexpr float kPointDotSize = 5;
 
 } // namespace morvane

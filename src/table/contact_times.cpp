@@ -14,8 +14,7 @@ float timeToLine(float line, float position, float v) {
 
 } // namespace
 
-float timeToCushion(const GameState& g, int n, int cushionId) {
-    const BallType& b = g.Balls[n];
+float timeToCushion(const BallType& b, int cushionId) {
     if (b.speed == 0 || !b.onTable)
         return kNoContactTime;
     switch (cushionId) {
@@ -33,9 +32,7 @@ float timeToCushion(const GameState& g, int n, int cushionId) {
 }
 
 // The earlier root of |p + v t| = 100, with p and v the position and velocity of i less j's.
-float timeToBall(const GameState& g, int i, int j) {
-    const BallType& bi = g.Balls[i];
-    const BallType& bj = g.Balls[j];
+float timeToBall(const BallType& bi, const BallType& bj) {
     if (!bi.onTable || !bj.onTable)
         return kNoContactTime;
     const double dx = double(bi.x) - bj.x;

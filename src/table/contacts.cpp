@@ -1,7 +1,6 @@
 #include "table/contacts.h"
 
 #include "table/geometry.h"
-#include "table/sounds.h"
 
 #include <cmath>
 
@@ -45,9 +44,7 @@ void setVelocityFromMotion(BallType& b, double followShift, double sideShift) {
 
 } // namespace
 
-void collideBalls(GameState& g, int i, int j) {
-    BallType& bi = g.Balls[i];
-    BallType& bj = g.Balls[j];
+void collideBalls(BallType& bi, BallType& bj) {
     const double a = getAngle(bi.x, bi.y, bj.x, bj.y);
     const double c = std::cos(a);
     const double s = std::sin(a);
@@ -70,26 +67,21 @@ void collideBalls(GameState& g, int i, int j) {
 
     settleAfterContact(bi);
     settleAfterContact(bj);
-
-    const double dvx = double(bj.vx) - bi.vx;
-    const double dvy = double(bj.vy) - bi.vy;
-    playContactSound(g, float(std::sqrt(dvx * dvx + dvy * dvy)));
 }
 
-void breakRack(GameState& g) {
-    RandomPort& random = g.ports.randomSource();
-    BallType& cue = g.Balls[kCueBall];
+void breakRack(BallArray& balls, float aimX, float aimY, RandomPort& random) {
+    BallType& cue = balls[kCueBall];
     const double v = cue.speed;
     const double q = 1 / std::sqrt(3.0);
     const double h = std::sqrt(3.0) / 2;
-    const double theta = getAngle(g.aimX, g.aimY, g.Balls[1].x, g.Balls[1].y) + kBreakThetaOffset;
+    const double theta = getAngle(aimX, aimY, balls[1].x, balls[1].y) + kBreakThetaOffset;
     const double e = kBreakSpreadPerTheta * theta +
                      (random.next() - 0.5) * kBreakSpreadPi * kBreakSpreadDegrees / 180;
 
     // The cue ball goes off sideways, keeping half its draw and an eighth of its side spin.
     cue.speed = float(std::fabs(v * std::sin(theta)));
-    g.Balls[1].speed = float(kBreakSlowShare * cue.speed);
-    g.Balls[1].angle = 0;
+    balls[1].speed = float(kBreakSlowShare * cue.speed);
+    balls[1].angle = 0;
     const double sideways = theta >= 0 ? theta - kPi / 2 : theta + kPi / 2;
     cue.angle = float(sideways + e * random.next());
     setVelocityFromMotion(cue, minOf(double(cue.spinFollow), 0.0) * kBreakDrawShare,
@@ -97,8 +89,8 @@ void breakRack(GameState& g) {
     cue.speed = float(std::sqrt(double(cue.vy) * cue.vy + double(cue.vx) * cue.vx));
     cue.spinSide = 0;
     cue.spinFollow = 0;
-    cue.x = g.aimX;
-    cue.y = g.aimY;
+    cue.x = aimX;
+    cue.y = aimY;
 
     // The two sides of the rack share the cue ball's push by the angle of the hit.
     const double u = kBreakRackShare * v;
@@ -122,14 +114,14 @@ void breakRack(GameState& g) {
         {8, p * h, 2.0 / 11 * kPi},
     };
     for (const Fan& f : fan) {
-        g.Balls[f.ball].speed = float(f.speed);
-        g.Balls[f.ball].angle = float(f.angle + e * random.next());
+        balls[f.ball].speed = float(f.speed);
+        balls[f.ball].angle = float(f.angle + e * random.next());
     }
-    g.Balls[kNineBall].speed = float(kBreakSlowShare * u);
-    g.Balls[kNineBall].angle = float(-(e * random.next()));
+    balls[kNineBall].speed = float(kBreakSlowShare * u);
+    balls[kNineBall].angle = float(-(e * random.next()));
 
     for (int n = 1; n < kBallCount; ++n) {
-        BallType& b = g.Balls[n];
+        BallType& b = balls[n];
         setVelocityFromMotion(b, minOf(double(b.spinFollow), 0.0),
                               double(b.spinSide) / kBreakObjectSideDivisor);
     }

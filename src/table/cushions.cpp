@@ -8,14 +8,6 @@ namespace morvane {
 
 namespace {
 
-constexpr int16_t kNoPocket = 0;
-constexpr int16_t kPocketTopLeft = 1;
-constexpr int16_t kPocketTopMiddle = 2;
-constexpr int16_t kPocketTopRight = 3;
-constexpr int16_t kPocketBottomLeft = 4;
-constexpr int16_t kPocketBottomMiddle = 5;
-constexpr int16_t kPocketBottomRight = 6;
-
 bool within(float value, double low, double high) {
     return value >= low && value <= high;
 }
@@ -80,8 +72,7 @@ Rebound reboundFrom(const BallType& b, int cushionId) {
 
 } // namespace
 
-int16_t checkPocket(GameState& g, int n, int cushionId) {
-    BallType& b = g.Balls[n];
+int16_t checkPocket(BallType& b, int cushionId) {
     const int16_t pocket = pocketOnCushion(b, cushionId);
     if (pocket != kNoPocket) {
         b.onTable = false;
@@ -90,8 +81,7 @@ int16_t checkPocket(GameState& g, int n, int cushionId) {
     return pocket;
 }
 
-void bounceCushion(GameState& g, int n, int cushionId) {
-    BallType& b = g.Balls[n];
+void bounceCushion(BallType& b, int cushionId) {
     const Rebound r = reboundFrom(b, cushionId);
     b.angle = float(r.angle);
     if (b.speed <= 0)

@@ -1,12 +1,13 @@
 // A ball on a cushion line: into a pocket, or off the cushion.
 #pragma once
 
-#include "table/game_state.h"
+#include "table/ball.h"
+#include "table/pockets.h"
 
 namespace morvane {
 
-// The pocket 1 to 6 that takes the ball, or 0.
-int16_t checkPocket(GameState& g, int n, int cushionId);
-void bounceCushion(GameState& g, int n, int cushionId);
+// The pocket that takes the ball, or kNoPocket.
+int16_t checkPocket(BallType& b, int cushionId);
+void bounceCushion(BallType& b, int cushionId);
 
 } // namespace morvane

@@ -1,7 +1,7 @@
 // Angles and distances on the table, shared by the physics and by zeph.
 #pragma once
 
-#include "table/game_state.h"
+#include "table/ball.h"
 
 #include <cstdint>
 

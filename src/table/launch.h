@@ -1,14 +1,12 @@
-// Firing a shot: the snapshot for Back, the rule state of one shot, the moving cue ball.
+// The cue struck: its speed from the power, its direction to the aim point, its spin made
+// velocities.
 #pragma once
 
-#include "table/game_state.h"
+#include "table/ball.h"
 
 namespace morvane {
 
-void saveTable(GameState& g);
-void prepareShot(GameState& g);
-void launchCueBall(GameState& g);
-// The shot button's handler; zeph fires its shots through it too.
-void cmdShot_Click(GameState& g);
+// power is the power bar's percent; the break's stroke is a fifth stronger.
+void launchCueBall(BallType& cue, float aimX, float aimY, int16_t power, bool isBreak);
 
 } // namespace morvane

@@ -3,8 +3,6 @@
 #include "table/contact_times.h"
 #include "table/contacts.h"
 #include "table/cushions.h"
-#include "table/geometry.h"
-#include "table/sounds.h"
 
 #include <cmath>
 
@@ -55,95 +53,72 @@ struct NextContact {
     }
 };
 
-NextContact findNextContact(const GameState& g) {
+NextContact findNextContact(const BallArray& balls) {
     NextContact next;
     for (int i = 0; i < kBallCount; ++i) {
-        if (!isMoving(g.Balls[i]))
+        if (!isMoving(balls[i]))
             continue;
         for (int c = kCushionLeft; c <= kCushionBottom; ++c)
-            next.offer(timeToCushion(g, i, c), i, c);
+            next.offer(timeToCushion(balls[i], c), i, c);
         for (int j = 0; j < kBallCount; ++j) {
-            if (j != i && g.Balls[j].onTable)
-                next.offer(timeToBall(g, i, j), i, j);
+            if (j != i && balls[j].onTable)
+                next.offer(timeToBall(balls[i], balls[j]), i, j);
         }
     }
     return next;
 }
 
-void tellObserver(GameState& g, float timeInFrame, int ball, int partner, int pocket) {
-    if (g.ports.contacts)
-        g.ports.contacts->onContact(timeInFrame, ball, partner, pocket);
-}
-
-void answerPocket(GameState& g, int n, int pocket) {
-    if (g.pocketedCount < kBallCount) // each ball falls at most once a shot
-        g.pocketedThisShot[g.pocketedCount++] = int16_t(n);
-    playPocketSound(g, kFullPower);
-    g.ports.screen->drawBallDrop(n, pocket);
-}
-
-void answerCushion(GameState& g, int n, int cushionId) {
-    bounceCushion(g, n, cushionId);
-    g.ports.screen->drawBallNow(n);
-    playCushionSound(g, g.Balls[n].speed);
-}
-
-void answerBall(GameState& g, int i, int j) {
-    if (g.firstHitPending) {
-        // Only the cue ball moves before the first contact: the higher number is the object ball.
-        g.firstHitBall = int16_t(maxOf(i, j));
-        g.firstHitPending = false;
-    }
-    collideBalls(g, i, j);
-    g.ports.screen->drawBallNow(i);
-    g.ports.screen->drawBallNow(j);
-}
-
 // Answers the contact that the balls have just been moved to; returns the pocket, or 0.
-int answerContact(GameState& g, const NextContact& next) {
+int answerContact(BallArray& balls, const NextContact& next) {
     if (!isCushion(next.partner)) {
-        answerBall(g, next.ball, next.partner);
+        collideBalls(balls[next.ball], balls[next.partner]);
         return 0;
     }
-    const int pocket = checkPocket(g, next.ball, next.partner);
-    if (pocket != 0)
-        answerPocket(g, next.ball, pocket);
-    else
-        answerCushion(g, next.ball, next.partner);
+    BallType& b = balls[next.ball];
+    const int pocket = checkPocket(b, next.partner);
+    if (pocket == kNoPocket)
+        bounceCushion(b, next.partner);
     return pocket;
 }
 
 } // namespace
 
-void runFrame(GameState& g) {
+void runFrame(BallArray& balls, ContactObserver& observer) {
     const float frameTime = float(kFrameTime);
     float timeLeft = frameTime;
     for (int pass = 0; pass < kMaxPassesPerFrame; ++pass) {
-        g.ports.screen->yieldToPaint();
-        const NextContact next = findNextContact(g);
+        observer.beforeSearch();
+        const NextContact next = findNextContact(balls);
         if (next.time > timeLeft)
             break;
-        moveBalls(g, next.time);
+        moveBalls(balls, next.time);
         const float timeInFrame = float(double(frameTime) - timeLeft + next.time);
-        const int pocket = answerContact(g, next);
-        tellObserver(g, timeInFrame, next.ball, next.partner, pocket);
+        const int pocket = answerContact(balls, next);
+        observer.onContact(timeInFrame, next.ball, next.partner, pocket);
         timeLeft = float(timeLeft - next.time);
     }
     // The rest of the frame without contacts; after too many contacts too, so a frame always ends.
-    moveBalls(g, timeLeft);
+    moveBalls(balls, timeLeft);
 }
 
-void moveBalls(GameState& g, double t) {
-    for (BallType& b : g.Balls) {
+void moveBalls(BallArray& balls, double t) {
+    for (BallType& b : balls) {
         if (isMoving(b))
             advance(b, t, false);
     }
 }
 
-void moveBall(GameState& g, int n, double t) {
-    BallType& b = g.Balls[n];
+void moveBall(BallType& b, double t) {
     if (isMoving(b))
         advance(b, t, true);
+}
+
+bool isAllStopped(const BallArray& balls) {
+    for (const BallType& ball : balls) {
+        if (ball.speed > 0)
+            return false;
+    }
+    return true;
 }
 
 } // namespace morvane

@@ -1,10 +1,10 @@
-// The rack: ten balls at their start points, the aim on the apex ball.
+// The rack: ten balls at their start points, at rest.
 #pragma once
 
-#include "table/game_state.h"
+#include "table/ball.h"
 
 namespace morvane {
 
-void rackBalls(GameState& g);
+void rackBalls(BallArray& balls);
 
 } // namespace morvane

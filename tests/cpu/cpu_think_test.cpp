@@ -1,6 +1,6 @@
 #include "cpu/cpu_think.h"
+#include "game/view_coords.h"
 #include "scripted_random.h"
-#include "table/view_coords.h"
 #include "table_setup.h"
 
 #include <gtest/gtest.h>

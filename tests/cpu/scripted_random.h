@@ -2,7 +2,7 @@
 // draws.
 #pragma once
 
-#include "table/ports.h"
+#include "game/ports.h"
 
 #include <cstddef>
 #include <vector>

@@ -3,7 +3,7 @@
 
 #include "cpu/pocket_table.h"
 #include "cpu/shot_plan.h"
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "cpu/turn_driver.h"
+#include "game/timers.h"
 #include "scripted_random.h"
-#include "table/timers.h"
 #include "table_setup.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
+#include "game/text.h"
 #include "records/atomic_file.h"
 #include "records/profile_file.h"
 #include "support/temp_home.h"
-#include "table/text.h"
 
 #include <gtest/gtest.h>
 

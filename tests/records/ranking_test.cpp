@@ -1,7 +1,7 @@
+#include "game/racking.h"
+#include "game/text.h"
 #include "records/ranking.h"
 #include "records/score_file.h"
-#include "table/rack.h"
-#include "table/text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
+#include "game/text.h"
 #include "records/score_file.h"
 #include "support/temp_home.h"
-#include "table/text.h"
 
 #include <gtest/gtest.h>
 

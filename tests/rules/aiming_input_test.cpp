@@ -1,7 +1,7 @@
 // The mouse on the table view: the aim, the cue ball in hand, the grab circle.
+#include "game/view_coords.h"
 #include "rules/aiming_input.h"
 #include "support/table_setup.h"
-#include "table/view_coords.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Back: the table as it stood before the last shot, paid for on the score.
+#include "game/table_queries.h"
 #include "rules/modes.h"
 #include "rules/undo.h"
 #include "rules_fixture.h"
-#include "table/table_queries.h"
 
 using namespace morvane;
 using namespace morvane::testing;

@@ -1,8 +1,8 @@
 // The end of a game in each mode, through the tick.
+#include "game/table_queries.h"
 #include "rules/demo.h"
 #include "rules/modes.h"
 #include "rules_fixture.h"
-#include "table/table_queries.h"
 
 using namespace morvane;
 using namespace morvane::testing;

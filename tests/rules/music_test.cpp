@@ -1,9 +1,9 @@
 // The music timer ticking in virtual time: which track opens and plays when, what the caption
 // says, and how a rolling ball and the music switch hold it back.
+#include "game/sounds.h"
+#include "game/timers.h"
 #include "rules/music.h"
 #include "rules/scenes.h"
-#include "table/sounds.h"
-#include "table/timers.h"
 
 #include <gtest/gtest.h>
 

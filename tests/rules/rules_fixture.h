@@ -1,13 +1,13 @@
 // A solo table ready for a shot, with a screen that writes down what it is shown.
 #pragma once
 
+#include "game/game_state.h"
+#include "game/shot_button.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
 #include "rules/game_tick.h"
 #include "support/recording_screen.h"
 #include "support/table_setup.h"
-#include "table/game_state.h"
-#include "table/launch.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,7 +1,7 @@
 // Whole shots through the game tick: what the judging of each does to the game.
+#include "game/table_queries.h"
 #include "rules/shot_judging.h"
 #include "rules_fixture.h"
-#include "table/table_queries.h"
 
 using namespace morvane;
 using namespace morvane::testing;

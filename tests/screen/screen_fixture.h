@@ -3,12 +3,12 @@
 // test asks for another.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/blit.h"
 #include "screen/main_window.h"
 #include "screen/pictures.h"
 #include "screen/qt_screen.h"
 #include "startup/scheduler.h"
-#include "table/game_state.h"
 
 #include <QApplication>
 #include <QDialog>

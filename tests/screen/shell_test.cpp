@@ -5,6 +5,8 @@
 
 #include "cpu/cpu_think.h"
 #include "cpu/cue_ball_placement.h"
+#include "game/table_queries.h"
+#include "game/timers.h"
 #include "records/score_text.h"
 #include "rules/game_over.h"
 #include "rules/scenes.h"
@@ -14,8 +16,6 @@
 #include "screen/qt_startup.h"
 #include "startup/form_load.h"
 #include "support/temp_home.h"
-#include "table/table_queries.h"
-#include "table/timers.h"
 
 #include <QTest>
 #include <algorithm>

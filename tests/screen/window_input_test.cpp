@@ -2,12 +2,12 @@
 // power bar and the labels at the top, and the size of the client area.
 #include "screen_fixture.h"
 
+#include "game/controls.h"
+#include "game/racking.h"
+#include "game/shot_input.h"
+#include "game/timers.h"
+#include "game/view_coords.h"
 #include "rules/modes.h"
-#include "table/controls.h"
-#include "table/rack.h"
-#include "table/shot_input.h"
-#include "table/timers.h"
-#include "table/view_coords.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
 // An effect and a tune go through the real mixer into a file (the disk driver, at full speed)
 // and come out as sound, the effect at the level it was written with.
+#include "game/sounds.h"
 #include "sound/sdl_sound.h"
 #include "sound_setup.h"
-#include "table/sounds.h"
 
 #include <SDL_mixer.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // The sound layer on SDL2_mixer with the dummy driver: the two ways an effect meets the one
 // sounding, the tunes opened, played and closed by name, and silence without files or device.
+#include "game/sounds.h"
+#include "game/timers.h"
 #include "rules/music.h"
 #include "sound/sdl_sound.h"
 #include "sound_setup.h"
-#include "table/sounds.h"
-#include "table/timers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Start-up from the command line to the menu, in its fixed order, and the refusal of a second
 // copy, with a platform that writes down every call.
+#include "game/timers.h"
 #include "startup/form_load.h"
 #include "startup/single_instance.h"
 #include "support/temp_home.h"
-#include "table/timers.h"
 
 #include <gtest/gtest.h>
 

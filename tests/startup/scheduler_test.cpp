@@ -1,7 +1,7 @@
 // The scheduler of the six timers in virtual time.
+#include "game/timers.h"
 #include "rules/music.h"
 #include "startup/scheduler.h"
-#include "table/timers.h"
 
 #include <gtest/gtest.h>
 

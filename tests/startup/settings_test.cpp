@@ -1,7 +1,7 @@
+#include "game/timers.h"
 #include "rules/music.h"
 #include "startup/settings.h"
 #include "support/temp_home.h"
-#include "table/timers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Whole demo games through the real tick, zeph's turns and the timers, in virtual time.
 #include "cpu/pocket_table.h"
+#include "game/timers.h"
 #include "rules/demo.h"
 #include "rules/modes.h"
 #include "startup/scheduler.h"
-#include "table/timers.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // A screen for tests: it draws nothing and writes down the messages and forms the logic shows.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <functional>
 #include <string>

@@ -1,7 +1,7 @@
 // Small hand-made tables for tests.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <initializer_list>
 

@@ -3,9 +3,9 @@
 // to start with the values that stand.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/forms/form_parts.h"
 #include "screen/forms/spin_arrows.h"
-#include "table/game_state.h"
 
 #include <QLineEdit>
 #include <array>

@@ -2,8 +2,8 @@
 // name counts however the form is closed.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/forms/form_parts.h"
-#include "table/game_state.h"
 
 #include <QLineEdit>
 

@@ -3,7 +3,7 @@
 // shows the main window. It is shown without waiting.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <QImage>
 #include <QTimer>

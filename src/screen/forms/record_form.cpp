@@ -1,9 +1,9 @@
 #include "screen/forms/record_form.h"
 
+#include "game/table_queries.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
 #include "screen/surfaces.h"
-#include "table/table_queries.h"
 
 #include <QPainter>
 

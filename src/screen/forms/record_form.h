@@ -3,8 +3,8 @@
 // account that says "Now, Break Time!".
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/forms/form_parts.h"
-#include "table/game_state.h"
 
 #include <array>
 #include <string>

@@ -1,7 +1,7 @@
 #include "screen/forms/result_form.h"
 
+#include "game/text.h"
 #include "screen/fonts.h"
-#include "table/text.h"
 
 #include <QKeyEvent>
 

@@ -2,8 +2,8 @@
 // reached the length of the match stands in magenta; any key closes the form as OK does.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/forms/form_parts.h"
-#include "table/game_state.h"
 
 #include <array>
 #include <string>

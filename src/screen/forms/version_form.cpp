@@ -1,12 +1,12 @@
 #include "screen/forms/version_form.h"
 
-#include "table/version.h"
+#include "game/version.h"
 
+#include "game/text.h"
 #include "picture_names.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
 #include "screen/pictures.h"
-#include "table/text.h"
 
 #include <cmath>
 

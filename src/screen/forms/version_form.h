@@ -2,8 +2,8 @@
 // zeph's face, which blinks twice when clicked.
 #pragma once
 
+#include "game/game_state.h"
 #include "screen/forms/form_parts.h"
-#include "table/game_state.h"
 
 #include <QImage>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 // rack; then the scatter and its first free step. One tick of the game while the break is on.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

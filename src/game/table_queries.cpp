@@ -1,7 +1,8 @@
-#include "table/table_queries.h"
+#include "game/table_queries.h"
 
+#include "game/text.h"
 #include "table/geometry.h"
-#include "table/text.h"
+#include "table/motion.h"
 
 namespace morvane {
 
@@ -33,11 +34,7 @@ bool isSpotBlocked(const GameState& g, float x, float y) {
 }
 
 bool isAllStopped(const GameState& g) {
-    for (const BallType& ball : g.Balls) {
-        if (ball.speed > 0)
-            return false;
-    }
-    return true;
+    return isAllStopped(g.Balls);
 }
 
 int16_t getShooterIndex(const GameState& g, int16_t turn) {

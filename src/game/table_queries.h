@@ -1,7 +1,7 @@
 // Questions about the table and the players that every layer asks.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

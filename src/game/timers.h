@@ -1,7 +1,7 @@
 // Switching the six timers on and off. A timer switched on starts its interval from that moment.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

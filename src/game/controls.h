@@ -1,7 +1,7 @@
 // The markers, the aim point and which shot controls are live.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

@@ -1,8 +1,8 @@
-#include "table/shot_input.h"
+#include "game/shot_input.h"
 
-#include "table/controls.h"
+#include "game/controls.h"
+#include "game/text.h"
 #include "table/geometry.h"
-#include "table/text.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
+#include "game/racking.h"
+#include "game/table_queries.h"
 #include "table/geometry.h"
-#include "table/rack.h"
-#include "table/table_queries.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "table/shot_input.h"
-#include "table/view_coords.h"
+#include "game/shot_input.h"
+#include "game/view_coords.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "table/timers.h"
+#include "game/timers.h"
 
 namespace morvane {
 

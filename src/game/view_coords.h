@@ -3,6 +3,16 @@
 
 namespace morvane {
 
+// Table view, in pixels.
+constexpr float kTableScaleX = 480.0f / 2400.0f;
+constexpr float kTableScaleY = 240.0f / 1200.0f;
+constexpr float kBallPixels = 20;
+constexpr float kViewMargin = 30;
+constexpr float kAimPixelMinX = 40;
+constexpr float kAimPixelMaxX = 500;
+constexpr float kAimPixelMinY = 40;
+constexpr float kAimPixelMaxY = 260;
+
 float tableToPixelX(float x);
 float tableToPixelY(float y);
 float pixelToTableX(float px);

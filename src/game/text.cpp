@@ -1,4 +1,4 @@
-#include "table/text.h"
+#include "game/text.h"
 
 namespace morvane {
 

@@ -1,8 +1,9 @@
-#include "table/break_run.h"
+#include "game/break_run.h"
 
+#include "game/contact_effects.h"
+#include "game/sounds.h"
 #include "table/contacts.h"
 #include "table/motion.h"
-#include "table/sounds.h"
 
 namespace morvane {
 
@@ -17,7 +18,7 @@ void scatterRack(GameState& g) {
     cue.x = g.aimX;
     cue.y = g.aimY;
     const float v = cue.speed;
-    breakRack(g);
+    breakRack(g.Balls, g.aimX, g.aimY, g.ports.randomSource());
     if (g.ports.contacts)
         g.ports.contacts->onContact(float(kFrameTime), kCueBall, 1, 0);
     playContactSound(g, v);
@@ -25,7 +26,7 @@ void scatterRack(GameState& g) {
     g.breakPending = false;
     // The scatter gets one free step before the motion engine takes over.
     for (int n = 0; n < kBallCount; ++n)
-        moveBall(g, n, kFrameTime);
+        moveBall(g.Balls[n], kFrameTime);
     g.ports.screen->drawTable();
     g.controls.poolEnabled = true;
 }
@@ -33,7 +34,7 @@ void scatterRack(GameState& g) {
 } // namespace
 
 void runBreakToRack(GameState& g) {
-    moveBall(g, kCueBall, kFrameTime);
+    moveBall(g.Balls[kCueBall], kFrameTime);
     if (g.Balls[kCueBall].x >= kBreakArrivalX)
         scatterRack(g);
 }
@@ -42,7 +43,7 @@ void runShotTick(GameState& g) {
     if (g.breakPending)
         runBreakToRack(g);
     else
-        runFrame(g);
+        playFrame(g);
 }
 
 } // namespace morvane

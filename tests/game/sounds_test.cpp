@@ -1,5 +1,5 @@
-#include "table/sounds.h"
-#include "table_fixtures.h"
+#include "game/sounds.h"
+#include "game_fixtures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The choice of effect by speed: which file, with which flags, or silence.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 namespace morvane {
 

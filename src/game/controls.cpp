@@ -1,6 +1,6 @@
-#include "table/controls.h"
+#include "game/controls.h"
 
-#include "table/view_coords.h"
+#include "game/view_coords.h"
 
 namespace morvane {
 

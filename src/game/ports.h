@@ -2,8 +2,9 @@
 // layer implement them for a person; tests and the headless tool implement them with plain code.
 #pragma once
 
-#include <cstdint>
-#include <random>
+#include "table/contact_observer.h"
+#include "table/random_source.h"
+
 #include <string>
 
 namespace morvane {
@@ -50,32 +51,6 @@ class ClockPort {
   public:
     virtual ~ClockPort() = default;
     virtual CalendarDate today() { return {}; }
-};
-
-// Uniform numbers from 0 up to 1.
-class RandomPort {
-  public:
-    virtual ~RandomPort() = default;
-    virtual double next() = 0;
-};
-
-// A reproducible source: the same seed gives the same draws.
-class SeededRandom : public RandomPort {
-  public:
-    explicit SeededRandom(uint64_t seed = 1) : engine_(seed) {}
-    double next() override { return std::uniform_real_distribution<double>(0.0, 1.0)(engine_); }
-
-  private:
-    std::mt19937_64 engine_;
-};
-
-// Hears of every contact that the motion engine answers: a ball with a ball or a cushion, or a
-// ball taken by a pocket. The time is counted from the start of the frame; pocket is 0 when the
-// contact is not a capture. The headless tool lists the events of a shot through it.
-class ContactObserver {
-  public:
-    virtual ~ContactObserver() = default;
-    virtual void onContact(float timeInFrame, int ball, int partner, int pocket) = 0;
 };
 
 // The four outside services, handed in with the game state. Screen, sound and clock start as

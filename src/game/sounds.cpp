@@ -1,4 +1,4 @@
-#include "table/sounds.h"
+#include "game/sounds.h"
 
 namespace morvane {
 

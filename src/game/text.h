@@ -1,7 +1,7 @@
 // Texts of the game: the language choice, trimming, and fixed widths counted in characters.
 #pragma once
 
-#include "table/game_state.h"
+#include "game/game_state.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "table/view_coords.h"
+#include "game/view_coords.h"
 
 #include "table/constants.h"
 #include "table/geometry.h"

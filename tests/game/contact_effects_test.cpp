@@ -1,0 +1,73 @@
+#include "game/contact_effects.h"
+#include "game_fixtures.h"
+#include "table/table_fixtures.h"
+
+#include <gtest/gtest.h>
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+struct ShotFrame : ::testing::Test {
+    GameState g;
+    ShotScreen screen;
+    RecordingSound sound;
+    RecordingContacts contacts;
+    void SetUp() override {
+        g.Balls = emptyTable();
+        g.ports.screen = &screen;
+        g.ports.sound = &sound;
+        g.ports.contacts = &contacts;
+        g.shotCount = 2;
+        g.firstHitPending = true;
+    }
+};
+
+} // namespace
+
+TEST_F(ShotFrame, BallsFallingInOneFrameAreListedInTheOrderOfTheirTimes) {
+    putBall(g.Balls, 2, 1200, 1100, 1500, float(3.1415926 / 2)); // 50 from the top: at 0.033
+    putBall(g.Balls, 7, 1200, 80, 5600, float(-3.1415926 / 2));  // 30 from the bottom: at 0.005
+    playFrame(g);
+    ASSERT_EQ(g.pocketedCount, 2);
+    EXPECT_EQ(g.pocketedThisShot[0], 7);
+    EXPECT_EQ(g.pocketedThisShot[1], 2);
+    ASSERT_EQ(screen.drops.size(), 2u);
+    EXPECT_EQ(screen.drops[0], std::make_pair(7, 5));
+    EXPECT_EQ(screen.drops[1], std::make_pair(2, 2));
+    ASSERT_EQ(sound.played.size(), 2u); // a pocket always sounds, however fast the ball
+    EXPECT_EQ(sound.played[0].first, "drop.wav");
+    EXPECT_EQ(sound.played[0].second, 1);
+    EXPECT_TRUE(screen.ballsDrawn.empty());
+    ASSERT_EQ(contacts.seen.size(), 2u); // and the listener hears both captures
+    EXPECT_EQ(contacts.seen[0].pocket, 5);
+    EXPECT_EQ(contacts.seen[1].pocket, 2);
+}
+
+TEST_F(ShotFrame, BallContactNotesTheFirstHitSoundsTheRelativeSpeedAndDrawsBothBalls) {
+    putBall(g.Balls, 0, 1000, 600, 3000); // touching ball 4 on its left
+    putBall(g.Balls, 4, 1100, 600);
+    playFrame(g);
+    EXPECT_EQ(g.firstHitBall, 4);
+    EXPECT_FALSE(g.firstHitPending);
+    ASSERT_EQ(sound.played.size(), 1u);
+    EXPECT_EQ(sound.played[0].first, "vmid.wav"); // 3000 apart: 0.536 of full power
+    EXPECT_EQ(screen.ballsDrawn, (std::vector<int>{0, 4}));
+    EXPECT_EQ(screen.yields, 2); // before each search: the contact, then the rest of the frame
+    ASSERT_EQ(contacts.seen.size(), 1u);
+    EXPECT_EQ(contacts.seen[0].partner, 4);
+}
+
+TEST_F(ShotFrame, CushionDrawsTheBallAndKnocksWithItsSpeedAfterTheBounce) {
+    // It comes in too slow to be heard (below 56), but the side spin's push along the cushion
+    // sends it off fast enough.
+    putBall(g.Balls, 3, 2349.5f, 600, 50);
+    g.Balls[3].spinSide = 100;
+    playFrame(g);
+    EXPECT_EQ(screen.ballsDrawn, (std::vector<int>{3}));
+    ASSERT_EQ(sound.played.size(), 1u);
+    EXPECT_EQ(sound.played[0].first, "meetwall.wav");
+    EXPECT_TRUE(g.firstHitPending); // a cushion is no first hit
+    EXPECT_EQ(contacts.seen.size(), 1u);
+}
