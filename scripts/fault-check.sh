@@ -39,7 +39,8 @@ export QT_QPA_PLATFORM=offscreen SDL_AUDIODRIVER=dummy
 testsFor() { # path
     local programs
     case "$1" in
-    src/table/* | src/game/*) programs="table game rules cpu records startup sim sound screen screen_2x" ;;
+    src/table/*) programs="table game rules cpu records startup sim sound screen screen_2x" ;;
+    src/game/*) programs="game rules cpu records startup sim sound screen screen_2x" ;;
     src/records/*) programs="records rules startup sim sound screen screen_2x" ;;
     src/cpu/*) programs="cpu rules startup sim sound screen screen_2x" ;;
     src/rules/*) programs="rules startup sim sound screen screen_2x" ;;
