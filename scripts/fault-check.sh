@@ -6,8 +6,8 @@
 #
 #   bash scripts/fault-check.sh [faults.txt] [--only N]
 #
-# The scratch copy and its build live in $MORVANE_FAULT_DIR (default /tmp/morvane-faults), so a
-# second run builds only what changed.
+# The scratch copy and its build live in $MORVANE_FAULT_DIR (default build-faults/ of this
+# checkout), so a second run builds only what changed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 top=$PWD
@@ -21,16 +21,23 @@ while [ $# -gt 0 ]; do
     esac
 done
 
-scratch=${MORVANE_FAULT_DIR:-/tmp/morvane-faults}
+scratch=${MORVANE_FAULT_DIR:-$top/build-faults}
 tree=$scratch/tree
-build=$scratch/build
+# The build lies inside the copy, as build/ does in a checkout, so that a compiler cache set to
+# ignore the folder finds what other builds of the same files left.
+build=$tree/build
 mkdir -p "$tree"
 
-# The scratch tree mirrors the files that git knows of, as they stand in the work tree.
-rsync -a --delete --exclude '/build*' --exclude '/.git' \
-    --files-from=<(git ls-files --cached --others --exclude-standard) "$top"/ "$tree"/
-cmake -S "$tree" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMORVANE_BENCH=OFF \
-    > /dev/null
+# The scratch tree mirrors the files that git knows of, as they stand in the work tree; a file
+# that has left the work tree leaves the copy too, or the build would still glob it in.
+git ls-files --cached --others --exclude-standard | sort > "$scratch/files"
+rsync -a --files-from="$scratch/files" "$top"/ "$tree"/
+(cd "$tree" && find . -path ./build -prune -o -type f -printf '%P\n') | sort |
+    comm -23 - "$scratch/files" | (cd "$tree" && xargs -r -d '\n' rm -f --)
+# Built as the test command builds, every warning an error: a fault the compiler warns of is
+# caught there. (The same flags also let the compiler cache serve what the test command built.)
+cmake -S "$tree" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMORVANE_WERROR=ON \
+    -DMORVANE_BENCH=OFF > /dev/null
 export QT_QPA_PLATFORM=offscreen SDL_AUDIODRIVER=dummy
 
 # The test programs that link a file's layer, its own first; every program for a file outside the
@@ -58,15 +65,22 @@ testsFor() { # path
     done
 }
 
+# Builds and runs the programs one after the other, so that a fault its own layer's tests catch
+# costs no build of the others. Fails with 1 where a program fails or its build fails on a warning,
+# and with 2 where it does not compile.
 buildAndTest() { # test programs
-    local targets=() p
-    for p in "$@"; do
-        targets+=("test_$p")
-    done
-    nice cmake --build "$build" -j "$(nproc)" --target "${targets[@]}" > "$scratch/build.log" 2>&1 ||
-        return 2
+    local p
     : > "$scratch/test.log"
     for p in "$@"; do
+        if ! nice cmake --build "$build" -j "$(nproc)" --target "test_$p" > "$scratch/build.log" 2>&1
+        then
+            # Caught where every error is a warning made one.
+            if grep -q -- '-Werror=' "$scratch/build.log" &&
+                ! grep 'error:' "$scratch/build.log" | grep -qv -- '-Werror='; then
+                return 1
+            fi
+            return 2
+        fi
         (cd "$build" && nice timeout 600 "bin/test_$p" --gtest_brief=1 --gtest_fail_fast) \
             >> "$scratch/test.log" 2>&1 || return 1
     done
