@@ -77,8 +77,8 @@ void TimerDriver::poll() {
         afterTicks_();
     if (gameTickDue && tickLog_) {
         const bool openedForm = modalCount_ && modalCount_() != formsBefore;
-        logTick(startedNs / kNanosPerMilli, (clock_.nsecsElapsed() - startedNs) / kNanosPerMilli,
-                openedForm);
+        logTick(double(startedNs) / kNanosPerMilli,
+                double(clock_.nsecsElapsed() - startedNs) / kNanosPerMilli, openedForm);
     }
 }
 
