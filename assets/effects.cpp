@@ -11,8 +11,11 @@ namespace morvane::assets {
 namespace {
 
 constexpr double kPi = 3.14159265358979;
-constexpr double kAttack = 0.0006; // seconds: takes the click out of a sudden start
-constexpr double kTail = 0.004;    // seconds of fade at the end of every sound
+constexpr double kAttack = 0.0006;      // seconds: takes the click out of a sudden start
+constexpr double kTail = 0.004;         // seconds of fade at the end of every sound
+constexpr double kLimiterReach = 0.005; // seconds over which the limiter's gain moves
+constexpr int kMasteringPasses = 12;
+constexpr double kHearingWindow = 0.1; // seconds the ear sums a sound's energy over
 
 using Signal = std::vector<double>;
 
@@ -51,17 +54,73 @@ void addNoise(Signal& s, double start, double amplitude, double decay, double sm
     }
 }
 
-// Scales the sound to the given peak and fades its last milliseconds.
-Signal finished(Signal s, double peak) {
+// The energy of the loudest stretch the ear sums into one impression of loudness.
+double loudnessOf(const Signal& s) {
+    const auto window = static_cast<size_t>(kHearingWindow * kSampleRate);
+    double sum = 0.0, loudest = 0.0;
+    for (size_t i = 0; i < s.size(); ++i) {
+        sum += s[i] * s[i];
+        if (i >= window)
+            sum -= s[i - window] * s[i - window];
+        loudest = std::max(loudest, sum);
+    }
+    return loudest;
+}
+
+double peakOf(const Signal& s) {
     double top = 0.0;
     for (double v : s)
         top = std::max(top, std::abs(v));
-    const size_t fade = static_cast<size_t>(kTail * kSampleRate);
-    for (size_t i = 0; i < s.size(); ++i) {
-        s[i] *= peak / top;
-        if (i + fade > s.size())
-            s[i] *= static_cast<double>(s.size() - i) / fade;
+    return top;
+}
+
+void scale(Signal& s, double factor) {
+    for (double& v : s)
+        v *= factor;
+}
+
+// Holds every sample within `ceiling` by turning the sound down where it would pass it. The
+// gain is the lowest any sample within two reaches asks for, averaged over one reach: it never
+// lets a sample through too loud, and it moves over milliseconds, not from sample to sample, so
+// that it bends the envelope without distorting the wave.
+void limit(Signal& s, double ceiling) {
+    const auto reach = static_cast<std::ptrdiff_t>(kLimiterReach * kSampleRate);
+    const auto size = static_cast<std::ptrdiff_t>(s.size());
+    std::vector<double> wanted(s.size());
+    for (std::ptrdiff_t i = 0; i < size; ++i)
+        wanted[i] = std::min(1.0, ceiling / std::max(std::abs(s[i]), 1e-12));
+    std::vector<double> lowest(s.size());
+    for (std::ptrdiff_t i = 0; i < size; ++i) {
+        const auto from = wanted.begin() + std::max<std::ptrdiff_t>(0, i - 2 * reach);
+        const auto to = wanted.begin() + std::min(size, i + 2 * reach + 1);
+        lowest[i] = *std::min_element(from, to);
     }
+    for (std::ptrdiff_t i = 0; i < size; ++i) {
+        const std::ptrdiff_t from = std::max<std::ptrdiff_t>(0, i - reach);
+        const std::ptrdiff_t to = std::min(size, i + reach + 1);
+        double sum = 0.0;
+        for (std::ptrdiff_t j = from; j < to; ++j)
+            sum += lowest[j];
+        s[i] *= sum / static_cast<double>(to - from);
+    }
+}
+
+// Masters the sound as loud as it sounds at `loudPeak` times the effects' level, its peak held
+// under its ceiling, and fades its last milliseconds. The ear hears a short
+// sound by its energy over a tenth of a second or so, so the limiter's losses are made up until
+// the loudest such stretch holds the energy it held before.
+Signal finished(Signal s, double loudPeak) {
+    scale(s, loudPeak * kEffectLevel / peakOf(s));
+    const double loudness = loudnessOf(s);
+    const double ceiling = kEffectCeiling * std::sqrt(loudPeak / kLoudestNominalPeak);
+    for (int pass = 0; pass < kMasteringPasses; ++pass) {
+        limit(s, ceiling);
+        scale(s, std::sqrt(loudness / loudnessOf(s)));
+    }
+    limit(s, ceiling);
+    const size_t fade = static_cast<size_t>(kTail * kSampleRate);
+    for (size_t i = s.size() > fade ? s.size() - fade : 0; i < s.size(); ++i)
+        s[i] *= static_cast<double>(s.size() - i) / fade;
     return s;
 }
 

@@ -4,10 +4,12 @@ set -euo pipefail
 
 packages=(
     build-essential cmake ninja-build pkg-config ccache
-    qt6-base-dev libsdl2-mixer-dev nlohmann-json3-dev
+    qt6-base-dev libsdl2-mixer-dev libfluidsynth-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     timgm6mb-soundfont fonts-liberation fonts-ipafont-gothic
-    xvfb xauth xdg-utils xdotool imagemagick openbox rsync
+    xvfb xauth xdg-utils xdotool imagemagick openbox rsync x11-utils python3 strace
+    weston qt6-wayland
+    appstream desktop-file-utils groff-base dpkg-dev file
 )
 
 missing=()

@@ -24,4 +24,6 @@ ctest --test-dir build --output-on-failure -j "$jobs" || status=1
 echo "== Logic tests under AddressSanitizer and UndefinedBehaviorSanitizer =="
 ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
     ctest --test-dir build-sanitize --output-on-failure -j "$jobs" || status=1
+echo "== The real window under X11 (Xvfb) and Wayland (headless Weston) =="
+bash scripts/smoke-platforms.sh || status=1
 exit $status

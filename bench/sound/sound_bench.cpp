@@ -12,14 +12,20 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <cstdlib>
+#include <mutex>
+#include <random>
 
 namespace {
 
 using morvane::SdlSound;
 using Clock = std::chrono::steady_clock;
 
-const char* const kFolder = MORVANE_RUNTIME_DIR;
+// The effects and tunes: MORVANE_SOUND_DIR if set (to weigh another build's files), else the
+// ones generated beside the programs.
+const char* const kFolder =
+    std::getenv("MORVANE_SOUND_DIR") ? std::getenv("MORVANE_SOUND_DIR") : MORVANE_RUNTIME_DIR;
 
 // The moment the mixer first mixes a sound after it was armed.
 std::atomic<bool> armed{false};
@@ -40,6 +46,12 @@ void SDLCALL listen(void*, Uint8* stream, int length) {
 template <typename Done> void waitFor(Done done) {
     while (!done())
         SDL_Delay(1);
+}
+
+double peakResidentMegabytes() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_maxrss) / 1024.0;
 }
 
 double processorSeconds() {
@@ -79,8 +91,8 @@ BENCHMARK(BM_ClickReachesTheMix)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
-// Opening a tune reads it and, for the soundfont synthesiser, the soundfont: the music tick
-// that starts a track waits for this.
+// What the music tick that starts a track waits for: opening, playing and closing a tune. The
+// files are read on the loading thread; the soundfont once a run.
 void BM_OpenAndCloseATune(benchmark::State& state) {
     ::setenv("SDL_AUDIODRIVER", "dummy", 1);
     SdlSound sound(kFolder);
@@ -103,6 +115,7 @@ void BM_ProcessorWhileMusicPlays(benchmark::State& state) {
         sound.sendMusic("open menu.mid");
         sound.sendMusic("play menu.mid");
     }
+    sound.waitForMusicLoads(); // the soundfont, read once a run, is not the music's cost
     double share = 0;
     for (auto _ : state) {
         const double before = processorSeconds();
@@ -110,8 +123,92 @@ void BM_ProcessorWhileMusicPlays(benchmark::State& state) {
         share = (processorSeconds() - before) / (kListenMs / 1000.0);
     }
     state.counters["cpu_percent"] = 100.0 * share;
+    state.counters["peak_resident_mb"] = peakResidentMegabytes();
 }
 BENCHMARK(BM_ProcessorWhileMusicPlays)->Arg(0)->Arg(1)->Iterations(1)->Unit(benchmark::kSecond);
+
+// The mixed output as it leaves the mixer: how many frames went by and how many samples of
+// each channel sat at full scale, where the sum of music and effect was cut off.
+struct MixWatch {
+    std::mutex mutex;
+    std::condition_variable advanced;
+    int64_t frames = 0;
+    int64_t clipped[2] = {0, 0};
+    int peak = 0;
+};
+MixWatch watch;
+
+void SDLCALL countClipped(void*, Uint8* stream, int length) {
+    const auto* samples = reinterpret_cast<const Sint16*>(stream);
+    const int count = length / int(sizeof(Sint16));
+    std::lock_guard<std::mutex> lock(watch.mutex);
+    for (int i = 0; i < count; ++i) {
+        if (samples[i] == 32767 || samples[i] == -32768)
+            ++watch.clipped[i % 2];
+        watch.peak = std::max(watch.peak, std::abs(int(samples[i])));
+    }
+    watch.frames += count / 2;
+    watch.advanced.notify_all();
+}
+
+void waitForMixedSeconds(double seconds) {
+    const auto frames = int64_t(seconds * morvane::kMixRate);
+    std::unique_lock<std::mutex> lock(watch.mutex);
+    watch.advanced.wait(lock, [&] { return watch.frames >= frames; });
+}
+
+// Five minutes of play into the disk driver as fast as the mixer goes: the tune of the scene
+// (argument: 0 the menu, 2 a solo game) started again every 30.5 s as the music timer does, and
+// every few seconds a shot's effects at their loudest, a hard click, a cushion and a pocket,
+// at moments that fall anywhere in the tune. Counts the samples each channel held at full scale.
+void BM_ClippedSamplesOverFiveMinutes(benchmark::State& state) {
+    constexpr double kPlaySeconds = 300;
+    constexpr double kTuneSeconds = 30.5;
+    const char* tunes[] = {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"};
+    const std::string tune = tunes[state.range(0)];
+    ::setenv("SDL_AUDIODRIVER", "disk", 1);
+    ::setenv("SDL_DISKAUDIOFILE", "/dev/null", 1);
+    ::setenv("SDL_DISKAUDIODELAY", "0", 1);
+    for (auto _ : state) {
+        watch.frames = 0;
+        watch.clipped[0] = watch.clipped[1] = 0;
+        watch.peak = 0;
+        SdlSound sound(kFolder);
+        sound.waitForMusicLoads();
+        Mix_SetPostMix(countClipped, nullptr);
+        std::mt19937 random(7);
+        std::uniform_real_distribution<double> gap(1.0, 4.0);
+        const char* loudest[] = {morvane::kSoundHardClick, morvane::kSoundCushion,
+                                 morvane::kSoundDrop};
+        double nextTune = 0;
+        for (double t = 0; t < kPlaySeconds; t += gap(random)) {
+            if (t >= nextTune) {
+                waitForMixedSeconds(nextTune);
+                sound.sendMusic("close " + tune);
+                sound.sendMusic("open " + tune);
+                sound.sendMusic("play " + tune);
+                // At full speed the mixer would run on while the tune is read.
+                sound.waitForMusicLoads();
+                nextTune += kTuneSeconds;
+            }
+            for (const char* effect : loudest) {
+                waitForMixedSeconds(t);
+                sound.playEffect(effect, morvane::kSoundCutOff);
+                t += 0.12;
+            }
+        }
+        waitForMixedSeconds(kPlaySeconds);
+        Mix_SetPostMix(nullptr, nullptr);
+    }
+    state.counters["clipped_left"] = double(watch.clipped[0]);
+    state.counters["clipped_right"] = double(watch.clipped[1]);
+    state.counters["peak"] = watch.peak / 32768.0;
+    state.counters["mixed_seconds"] = double(watch.frames) / morvane::kMixRate;
+}
+BENCHMARK(BM_ClippedSamplesOverFiveMinutes)
+    ->DenseRange(0, 4)
+    ->Iterations(1)
+    ->Unit(benchmark::kSecond);
 
 } // namespace
 

@@ -7,10 +7,10 @@
 namespace morvane {
 
 // The target ball off the cushion that lies ahead of the cue ball, into a far pocket.
-void tryObjectBank(GameState& g, ShotPlan& plan);
+void tryObjectBank(const GameState& g, ShotPlan& plan);
 // The cue ball off any cushion onto the target's ghost point for any pocket.
-void tryCueBank(GameState& g, ShotPlan& plan);
+void tryCueBank(const GameState& g, ShotPlan& plan);
 // The same, where a ball between the target and a pocket becomes the second ball of a combination.
-void tryCueBankCombination(GameState& g, ShotPlan& plan);
+void tryCueBankCombination(const GameState& g, ShotPlan& plan);
 
 } // namespace morvane

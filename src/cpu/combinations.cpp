@@ -5,9 +5,9 @@
 
 namespace morvane {
 
-bool isCombinationPocket(const GameState& g, int p) {
+bool isCombinationPocket(const GameState& g, const PointType& pocket) {
     const ShotScene scene = sceneOf(g);
-    return isPathBlockedExcept(g, g.pocketTable[p], scene.target, scene.t);
+    return isPathBlockedExcept(g, pocket, scene.target, scene.t);
 }
 
 PointType ghostForPocket(const GameState& g, int p) {
@@ -20,19 +20,19 @@ PointType ghostForPocket(const GameState& g, int p) {
     return ghostPoint(scene.target, second);
 }
 
-PocketGhosts plainGhosts(const GameState& g, const ShotScene& scene, int first, int last) {
+PocketGhosts plainGhosts(const PocketTable& pockets, const ShotScene& scene, int first, int last) {
     PocketGhosts ghost{};
     for (int p = first; p <= last; ++p)
-        ghost[p] = ghostPoint(scene.target, g.pocketTable[p]);
+        ghost[p] = ghostPoint(scene.target, pockets[p]);
     return ghost;
 }
 
-PocketGhosts pocketGhosts(const GameState& g, bool withCombinations, PocketRemarks& remarks) {
+PocketGhosts pocketGhosts(const GameState& g, bool withCombinations, PocketFlags& isCombination) {
     if (!withCombinations)
-        return plainGhosts(g, sceneOf(g), kFirstPocket, kLastPocket);
+        return plainGhosts(g.pocketTable, sceneOf(g), kFirstPocket, kLastPocket);
     PocketGhosts ghost{};
     for (int p = kFirstPocket; p <= kLastPocket; ++p) {
-        remarks.isCombination[p] = isCombinationPocket(g, p);
+        isCombination[p] = isCombinationPocket(g, g.pocketTable[p]);
         ghost[p] = ghostForPocket(g, p);
     }
     return ghost;

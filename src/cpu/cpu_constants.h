@@ -2,6 +2,7 @@
 #pragma once
 
 #include "table/constants.h"
+#include "game/zeph_level.h"
 
 #include <cstdint>
 
@@ -49,8 +50,6 @@ constexpr double kPowerRunScale = 150;
 constexpr double kMissSpread = kBallDiameter / 3.0;
 
 // Level and growth.
-constexpr int16_t kZephLevelMin = 1;
-constexpr int16_t kZephLevelMax = 11;
 constexpr int16_t kWinsToGrow = 2;
 constexpr int16_t kLevelDirectCombination = 7;
 constexpr int16_t kLevelObjectBank = 5;

@@ -1,5 +1,6 @@
 #include "cpu/cpu_think.h"
 
+#include "cpu/plan_remarks.h"
 #include "cpu/shot_choice.h"
 #include "game/controls.h"
 #include "game/shot_input.h"
@@ -10,7 +11,6 @@ namespace morvane {
 namespace {
 
 constexpr double kNineBallMissFactor = 2;
-constexpr Remark kNothingToDo{"打つ手がないよ～", "I can do nothing!"};
 
 // The aim on the plan, or with the chance of this level up to a sixth of a ball off either way.
 void aimWithChanceOfMiss(GameState& g, int16_t level, const ShotPlan& plan) {
@@ -35,8 +35,7 @@ void aimWithChanceOfMiss(GameState& g, int16_t level, const ShotPlan& plan) {
 void cpuThink(GameState& g) {
     const int16_t level = g.zephLevel;
     const ShotPlan plan = choosePlan(g, level);
-    if (!plan.found)
-        sayRemark(g, kNothingToDo);
+    sayRemark(g, remarkOf(plan));
     setPower(g, powerForPlan(level, plan));
     aimWithChanceOfMiss(g, level, plan);
     placeTarget(g);

@@ -6,7 +6,7 @@
 
 namespace morvane {
 
-// Sets the aim, the power bar and the target marker, and may leave a remark.
+// Sets the aim, the power bar and the target marker, and says what zeph makes of his choice.
 void cpuThink(GameState& g);
 
 } // namespace morvane

@@ -6,8 +6,8 @@
 namespace morvane {
 
 // The pocket with the smallest cut whose ghost point the cue ball can reach.
-void tryDirect(GameState& g, ShotPlan& plan);
+void tryDirect(const GameState& g, ShotPlan& plan);
 // The same, where a ball between the target and a pocket becomes the second ball of a combination.
-void tryDirectCombination(GameState& g, ShotPlan& plan);
+void tryDirectCombination(const GameState& g, ShotPlan& plan);
 
 } // namespace morvane

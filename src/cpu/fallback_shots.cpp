@@ -13,9 +13,6 @@ namespace {
 
 constexpr int kProbeCount = 3;
 
-constexpr Remark kDifficult{"当てるぐらいしかできませんね", "Difficalt !"};
-constexpr Remark kCannotPot{"とりあえず当てていきましょうかね。", "I can't Poket."};
-
 // The target's centre, then a point 98 from it turned to one side of the line of sight, then to
 // the other.
 std::array<PointType, kProbeCount + 1> thinHitProbes(const ShotScene& scene) {
@@ -36,7 +33,7 @@ bool isInMiddleMouth(const PointType& bank) {
 
 } // namespace
 
-void tryJustHit(GameState& g, ShotPlan& plan) {
+void tryJustHit(const GameState& g, ShotPlan& plan) {
     if (plan.found)
         return;
     const ShotScene scene = sceneOf(g);
@@ -45,14 +42,12 @@ void tryJustHit(GameState& g, ShotPlan& plan) {
     // distance goes into the power.
     for (int i = 1; i <= kProbeCount; ++i) {
         const ShotCandidate candidate = directCandidate(scene, probe[i], g.pocketTable[i]);
-        if (!isPathBlocked(g, scene.cue, probe[i]) && candidate.cut < plan.cutAngle) {
-            takeCandidate(plan, candidate);
-            sayRemark(g, kDifficult);
-        }
+        if (!isPathBlocked(g, scene.cue, probe[i]) && candidate.cut < plan.cutAngle)
+            takeCandidate(plan, candidate, Strategy::JustHit);
     }
 }
 
-void tryCushionHit(GameState& g, ShotPlan& plan) {
+void tryCushionHit(const GameState& g, ShotPlan& plan) {
     if (plan.found)
         return;
     const ShotScene scene = sceneOf(g);
@@ -71,8 +66,9 @@ void tryCushionHit(GameState& g, ShotPlan& plan) {
             plan.planX = bank.point.x;
             plan.planY = bank.point.y;
             plan.found = true;
+            plan.strategy = Strategy::CushionHit;
+            plan.roadHoldsBall = false;
             shortest = float(total);
-            sayRemark(g, kCannotPot);
         }
     }
 }

@@ -7,8 +7,8 @@
 namespace morvane {
 
 // A thin hit on either side of the target, from where the cue ball stands.
-void tryJustHit(GameState& g, ShotPlan& plan);
+void tryJustHit(const GameState& g, ShotPlan& plan);
 // The target's centre by way of the cushion that makes the shortest road.
-void tryCushionHit(GameState& g, ShotPlan& plan);
+void tryCushionHit(const GameState& g, ShotPlan& plan);
 
 } // namespace morvane

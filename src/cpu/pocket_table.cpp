@@ -15,8 +15,7 @@ void initPocketTable(GameState& g) {
     p[kPocketBottomRight] = {kCushionRightX, kCushionBottomY};
 }
 
-void mirrorPockets(GameState& g, int16_t cushion) {
-    auto& p = g.pocketTable;
+void mirrorPockets(PocketTable& p, int16_t cushion) {
     switch (cushion) {
     case kCushionLeft:
         p[7] = {float(double(kCushionLeftX) - p[kPocketTopRight].x), p[kPocketTopRight].y};

@@ -17,7 +17,7 @@ constexpr std::array<float, 10> kMissChanceByLevel{0.8f, 0.7f, 0.5f,  0.3f,  0.2
 constexpr float kMasterMissChance = 0.01f;
 
 // Only a cut above 30 degrees sends the best levels looking off a cushion.
-void runBankSearch(GameState& g, int16_t level, ShotPlan& plan) {
+void runBankSearch(const GameState& g, int16_t level, ShotPlan& plan) {
     if (plan.cutAngle <= kBankSearchCut)
         return;
     if (level == kLevelCueBank)
@@ -41,7 +41,7 @@ int16_t powerForPlan(int16_t level, const ShotPlan& plan) {
     return int16_t(std::floor(limitTo(fromRuns, double(kPowerMin), double(kPowerMax))));
 }
 
-ShotPlan choosePlan(GameState& g, int16_t level) {
+ShotPlan choosePlan(const GameState& g, int16_t level) {
     ShotPlan plan = startPlan(g);
     if (level < kLevelDirectCombination)
         tryDirect(g, plan);

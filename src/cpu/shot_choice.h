@@ -13,7 +13,7 @@ float getMissChance(int16_t level);
 // The power bar's value for a plan: full at levels 1 and 2, else from the two runs.
 int16_t powerForPlan(int16_t level, const ShotPlan& plan);
 // The plan that the strategies of this level find on the table as it stands, starting from the
-// aim as it stands. The last strategy that improved the plan leaves its remark.
-ShotPlan choosePlan(GameState& g, int16_t level);
+// aim as it stands. The plan names the strategy that improved it last.
+ShotPlan choosePlan(const GameState& g, int16_t level);
 
 } // namespace morvane

@@ -57,8 +57,11 @@ bool isGhostReachable(const GameState& g, const ShotScene& scene, const PointTyp
            !isSpotBlockedExcept(g, ghost.x, ghost.y, scene.t);
 }
 
-void takeCandidate(ShotPlan& plan, const ShotCandidate& candidate) {
+void takeCandidate(ShotPlan& plan, const ShotCandidate& candidate, Strategy strategy,
+                   bool roadHoldsBall) {
     plan.found = true;
+    plan.strategy = strategy;
+    plan.roadHoldsBall = roadHoldsBall;
     plan.cueRun = candidate.run;
     plan.ballRun = candidate.ballLength;
     plan.cutAngle = candidate.cut;

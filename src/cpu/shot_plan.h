@@ -8,6 +8,18 @@
 
 namespace morvane {
 
+// The strategy whose shot a plan holds, named for the search that found it.
+enum class Strategy {
+    None, // nothing found yet
+    Direct,
+    DirectCombination,
+    ObjectBank,
+    CueBank,
+    CueBankCombination,
+    JustHit,
+    CushionHit,
+};
+
 struct ShotPlan {
     float planX = 0; // the aim point chosen so far
     float planY = 0;
@@ -15,9 +27,14 @@ struct ShotPlan {
     float cueRun = kNoShotRun;  // the cue ball's road to the contact
     float ballRun = kNoShotRun; // the object ball's road
     bool found = false;
+    Strategy strategy = Strategy::None;
+    // The strategy saw another ball on the target's road to the pocket: the second ball of a
+    // combination, or for an object-ball bank a road it doubts.
+    bool roadHoldsBall = false;
 };
 
-// A plan that aims where the aim stands now and has found nothing yet.
+// A plan that aims where the aim stands now and has found nothing yet. The strategies look at the
+// table and change nothing but the plan; what zeph says of it is worked out once it is chosen.
 ShotPlan startPlan(const GameState& g);
 
 // The target ball (the lowest on the table) and the two centres every strategy starts from.
@@ -48,8 +65,9 @@ ShotCandidate bankCandidate(const ShotScene& scene, const PointType& bank, const
 // The cue ball can run straight to the ghost point, and no object ball but the target covers it.
 bool isGhostReachable(const GameState& g, const ShotScene& scene, const PointType& ghost);
 
-// The candidate becomes the plan.
-void takeCandidate(ShotPlan& plan, const ShotCandidate& candidate);
+// The candidate of this strategy becomes the plan.
+void takeCandidate(ShotPlan& plan, const ShotCandidate& candidate, Strategy strategy,
+                   bool roadHoldsBall = false);
 
 // A remark of zeph in both languages.
 struct Remark {

@@ -72,6 +72,7 @@ struct MarkerState {
     float left = 0;
     float top = 0;
     bool visible = false;
+    bool operator==(const MarkerState&) const = default;
 };
 
 // A caption with its font, as the shot button and the labels carry them.
@@ -79,6 +80,7 @@ struct FontState {
     std::string name = "Arial";
     float size = 24;
     bool bold = true;
+    bool operator==(const FontState&) const = default;
 };
 
 // What the logic reads and writes of the window's controls.
@@ -127,6 +129,8 @@ struct ControlsState {
 
     std::string windowCaption;
     bool mainWindowVisible = false;
+
+    bool operator==(const ControlsState&) const = default;
 };
 
 struct GameState {
@@ -170,6 +174,7 @@ struct GameState {
     // Modes, players and matches.
     int16_t gameMode = kModeMenu;
     int16_t demoCounter = 0;
+    int16_t demoShotsWithoutPot = 0; // shots in a row of the demo game with no ball potted
     std::array<PlayerType, 2> players{};
     int16_t matchTarget = 3;
     bool versusCpu = true;
@@ -182,6 +187,9 @@ struct GameState {
     // Records: rows 1 to 10 are the tables, 11 the working row, 0 unused.
     std::array<SoloRecordType, 12> soloRecords{};
     std::array<VsCpuRecordType, 12> vsCpuRecords{};
+    // Saves of the score file in this run, and how many of them failed.
+    int32_t scoreFileSaves = 0;
+    int32_t failedScoreFileSaves = 0;
 
     // Music.
     int16_t bgmScene = -1;

@@ -15,6 +15,11 @@ constexpr double kDotHalf = kPointDotSize / 2.0;
 constexpr double kLargestOffset = kSetPointHalf - kDotHalf; // 20 pixels
 constexpr double kCentreClick = kPointDotSize / 3.0;        // a click this near is dead centre
 
+// One tick's worth of swing: the phase is a Single, so it is rounded at every step.
+float nextSwingPhase(float phase) {
+    return float(phase + kSwingPhaseStep);
+}
+
 } // namespace
 
 void setPower(GameState& g, int16_t value) {
@@ -56,7 +61,7 @@ void picSetPoint_MouseDown(GameState& g, float x, float y) {
 }
 
 void Timer2_Timer(GameState& g) {
-    g.swingPhase = float(g.swingPhase + kSwingPhaseStep);
+    g.swingPhase = nextSwingPhase(g.swingPhase);
     const double d = kSwingReach * std::sin(g.swingPhase);
     const double jitter = (g.ports.randomSource().next() - 0.5) * kSwingJitter;
 
@@ -66,6 +71,15 @@ void Timer2_Timer(GameState& g) {
     placeTarget(g);
     g.aimX = float(kFootSpotX - kSwingRadius * std::cos(d + jitter));
     g.aimY = float(kFootSpotY + kSwingRadius * std::sin(d + jitter));
+}
+
+void carrySwingOn(GameState& g, int64_t missedTicks) {
+    for (int64_t tick = 0; tick < missedTicks; ++tick) {
+        const float next = nextSwingPhase(g.swingPhase);
+        if (next == g.swingPhase)
+            return; // so large a phase no longer moves by a step
+        g.swingPhase = next;
+    }
 }
 
 } // namespace morvane

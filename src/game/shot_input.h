@@ -24,5 +24,8 @@ void picSetPoint_MouseDown(GameState& g, float x, float y);
 // shpPoint back to the middle of the ball.
 void centrePointDot(GameState& g);
 void Timer2_Timer(GameState& g);
+// Carries the swing's phase on by ticks that were due but never fired, as if it had swung all
+// along, so that a swing that rested goes on from a phase nobody could foresee.
+void carrySwingOn(GameState& g, int64_t missedTicks);
 
 } // namespace morvane

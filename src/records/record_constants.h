@@ -22,10 +22,8 @@ constexpr int kRecordNameWidth = 20;
 constexpr int kRecordBallsWidth = 9;
 constexpr int kRecordDateWidth = 8;
 
-// zeph's level, as stored and as it may be read back.
+// zeph's level and progress when the file holds none.
 constexpr int16_t kDefaultZephLevel = 1;
 constexpr int16_t kDefaultZephProgress = 0;
-constexpr int16_t kLowestZephLevel = 1;
-constexpr int16_t kHighestZephLevel = 11;
 
 } // namespace morvane

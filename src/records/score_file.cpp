@@ -1,6 +1,7 @@
 #include "records/score_file.h"
 
 #include "game/text.h"
+#include "game/zeph_level.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
@@ -9,10 +10,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <functional>
 
 namespace morvane {
 
 namespace {
+
+constexpr const char* kLevelKey = "LV";
+constexpr const char* kProgressKey = "PG";
 
 // One key of a row: a number field, or a text field of a fixed width.
 template <class Row> struct RecordKey {
@@ -48,30 +53,48 @@ std::string rowKey(const char* word, int row) {
     return word + std::string(digits);
 }
 
+// One save of the score file, counted with its outcome.
+bool saveScoreFile(GameState& g, const std::function<void(IniDocument&)>& change) {
+    const bool saved = saveProfile(scoreFilePath(), change);
+    ++g.scoreFileSaves;
+    if (!saved)
+        ++g.failedScoreFileSaves;
+    return saved;
+}
+
 template <class Row, size_t N>
 void loadRow(Row& row, int i, const std::array<RecordKey<Row>, N>& keys, const char* section,
-             const std::string& file) {
+             const IniDocument& file) {
     const Row defaults;
     for (const RecordKey<Row>& k : keys) {
         const std::string key = rowKey(k.word, i);
         if (k.number) {
-            row.*k.number =
-                toInteger16(GetPrivateProfileIntA(section, key, defaults.*k.number, file));
+            row.*k.number = toInteger16(file.readInt(section, key, defaults.*k.number));
         } else {
-            const std::string text = GetPrivateProfileStringA(section, key, defaults.*k.text, file);
+            const std::string text = file.readString(section, key, defaults.*k.text);
             row.*k.text = fitToWidth(trimAtNull(text), k.width);
         }
     }
 }
 
 template <class Row, size_t N>
-void saveRow(const Row& row, int i, const std::array<RecordKey<Row>, N>& keys, const char* section,
-             const std::string& file) {
+void setRow(IniDocument& file, const Row& row, int i, const std::array<RecordKey<Row>, N>& keys,
+            const char* section) {
     for (const RecordKey<Row>& k : keys) {
         const std::string value =
             k.number ? signedNumberText(row.*k.number) : fitToWidth(row.*k.text, k.width);
-        WritePrivateProfileStringA(section, rowKey(k.word, i), value, file);
+        file.set(section, rowKey(k.word, i), value);
     }
+}
+
+// Rows 1 to 10 of a table into the file, in one save.
+template <class Row, size_t N>
+bool saveTable(GameState& g, const std::array<Row, 12>& rows,
+               const std::array<RecordKey<Row>, N>& keys, const char* section) {
+    return saveScoreFile(g, [&](IniDocument& file) {
+        for (int i = kFirstRow; i <= kLastRow; ++i)
+            setRow(file, rows[i], i, keys, section);
+    });
 }
 
 } // namespace
@@ -92,7 +115,7 @@ float winRate(int16_t youWon, int16_t cpuWon) {
 }
 
 void loadSoloRecord(GameState& g) {
-    const std::string file = scoreFilePath();
+    const IniDocument file = loadProfile(scoreFilePath());
     for (int i = kFirstRow; i <= kLastRow; ++i) {
         SoloRecordType& row = g.soloRecords[i];
         loadRow(row, i, kSoloKeys, kSoloSection, file);
@@ -102,7 +125,7 @@ void loadSoloRecord(GameState& g) {
 }
 
 void loadVsCpuRecord(GameState& g) {
-    const std::string file = scoreFilePath();
+    const IniDocument file = loadProfile(scoreFilePath());
     for (int i = kFirstRow; i <= kLastRow; ++i) {
         VsCpuRecordType& row = g.vsCpuRecords[i];
         loadRow(row, i, kVsCpuKeys, kVsCpuSection, file);
@@ -111,30 +134,26 @@ void loadVsCpuRecord(GameState& g) {
     }
 }
 
-void saveSoloRecord(const GameState& g) {
-    const std::string file = scoreFilePath();
-    for (int i = kFirstRow; i <= kLastRow; ++i)
-        saveRow(g.soloRecords[i], i, kSoloKeys, kSoloSection, file);
+bool saveSoloRecord(GameState& g) {
+    return saveTable(g, g.soloRecords, kSoloKeys, kSoloSection);
 }
 
-void saveVsCpuRecord(const GameState& g) {
-    const std::string file = scoreFilePath();
-    for (int i = kFirstRow; i <= kLastRow; ++i)
-        saveRow(g.vsCpuRecords[i], i, kVsCpuKeys, kVsCpuSection, file);
+bool saveVsCpuRecord(GameState& g) {
+    return saveTable(g, g.vsCpuRecords, kVsCpuKeys, kVsCpuSection);
 }
 
 void loadZephLevel(GameState& g) {
-    const std::string file = scoreFilePath();
-    const int32_t level = GetPrivateProfileIntA(kZephSection, "LV", kDefaultZephLevel, file);
-    g.zephLevel = int16_t(std::clamp<int32_t>(level, kLowestZephLevel, kHighestZephLevel));
-    g.zephProgress =
-        toInteger16(GetPrivateProfileIntA(kZephSection, "PG", kDefaultZephProgress, file));
+    const IniDocument file = loadProfile(scoreFilePath());
+    const int32_t level = file.readInt(kZephSection, kLevelKey, kDefaultZephLevel);
+    g.zephLevel = int16_t(std::clamp<int32_t>(level, kZephLevelMin, kZephLevelMax));
+    g.zephProgress = toInteger16(file.readInt(kZephSection, kProgressKey, kDefaultZephProgress));
 }
 
-void saveZephLevel(const GameState& g) {
-    const std::string file = scoreFilePath();
-    WritePrivateProfileStringA(kZephSection, "LV", signedNumberText(g.zephLevel), file);
-    WritePrivateProfileStringA(kZephSection, "PG", signedNumberText(g.zephProgress), file);
+bool saveZephLevel(GameState& g) {
+    return saveScoreFile(g, [&](IniDocument& file) {
+        file.set(kZephSection, kLevelKey, signedNumberText(g.zephLevel));
+        file.set(kZephSection, kProgressKey, signedNumberText(g.zephProgress));
+    });
 }
 
 } // namespace morvane

@@ -12,6 +12,7 @@ namespace morvane {
 namespace {
 
 constexpr int16_t kIdleSecondsBeforeDemo = 30;
+constexpr int16_t kDemoShotsWithoutPotBeforeNewRack = 30;
 constexpr float kDemoShotFontSize = 12;
 
 } // namespace
@@ -40,6 +41,16 @@ void startDemo(GameState& g) {
     g.controls.shotCaption = "DEMO";
     setTimerEnabled(g, kTimCom, true);
     rackBalls(g);
+    g.demoShotsWithoutPot = 0;
+}
+
+void moveDemoOn(GameState& g, bool ballPotted) {
+    g.demoShotsWithoutPot = ballPotted ? 0 : int16_t(g.demoShotsWithoutPot + 1);
+    if (g.demoShotsWithoutPot < kDemoShotsWithoutPotBeforeNewRack)
+        return;
+    g.demoShotsWithoutPot = 0;
+    newGame(g);
+    g.ports.screen->drawInformation();
 }
 
 void picPool_Click(GameState& g, int /*index*/) {

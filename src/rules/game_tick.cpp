@@ -3,6 +3,7 @@
 #include "game/break_run.h"
 #include "game/table_queries.h"
 #include "game/timers.h"
+#include "rules/demo.h"
 #include "rules/game_over.h"
 #include "rules/next_shot.h"
 #include "rules/shot_judging.h"
@@ -29,7 +30,8 @@ void finishShot(GameState& g) {
     g.controls.poolKeepsPicture = true;
     g.ports.screen->drawTable();
 
-    switch (judgeShot(g)) {
+    const ShotOutcome outcome = judgeShot(g);
+    switch (outcome) {
     case ShotOutcome::CueBallFoul:
         answerFoul(g, ShotOutcome::CueBallFoul);
         break;
@@ -45,6 +47,9 @@ void finishShot(GameState& g) {
         break;
     }
     setUpNextShot(g);
+    // A legal shot that pockets a ball pockets an object ball, and it stays down.
+    if (g.gameMode == kModeDemo)
+        moveDemoOn(g, outcome == ShotOutcome::Legal && g.pocketedCount > 0);
 }
 
 } // namespace

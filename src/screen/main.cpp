@@ -1,8 +1,10 @@
 // The game: the window, the timers, start-up in its fixed order, and the way out.
+#include "game/timers.h"
 #include "screen/main_window.h"
 #include "screen/pictures.h"
 #include "screen/qt_screen.h"
 #include "screen/qt_startup.h"
+#include "screen/termination_signals.h"
 #include "screen/timer_driver.h"
 #include "sound/sdl_sound.h"
 #include "startup/command_line.h"
@@ -15,6 +17,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <chrono>
+#include <cstdlib>
 #include <memory>
 
 using namespace morvane;
@@ -23,6 +26,15 @@ namespace {
 
 uint64_t clockSeed() {
     return uint64_t(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+// For measuring the window through a whole solo game: with MORVANE_SELF_PLAY set, zeph takes the
+// player's turn whenever a solo game waits for a shot and no form is open.
+void letZephTakeTheSoloShot(GameState& g) {
+    const bool waiting = g.gameMode == kModeSolo && !isTimerEnabled(g, kTimer1) &&
+                         !isTimerEnabled(g, kTimCom) && !QApplication::activeModalWidget();
+    if (waiting)
+        setTimerEnabled(g, kTimCom, true);
 }
 
 } // namespace
@@ -56,10 +68,19 @@ int main(int argc, char* argv[]) {
     QtStartupPlatform platform(*g, window, screen, lock);
     if (!Form_Load(*g, joinArguments(argc, argv), platform))
         return 0;
-    QObject::connect(&window, &MainWindow::exitRequested, &app, [&] { Form_Unload(*g, platform); });
+    // Exit, the close box and the session's signals all leave through Form_Unload.
+    const auto unload = [&] { Form_Unload(*g, platform); };
+    QObject::connect(&window, &MainWindow::exitRequested, &app, unload);
+    endOnTerminationSignals(&app, unload);
 
+    const bool selfPlay = std::getenv("MORVANE_SELF_PLAY") != nullptr;
     TimerDriver driver(
-        *g, [&window] { window.syncControlsFromState(); },
+        *g,
+        [&window, &g, selfPlay] {
+            if (selfPlay)
+                letZephTakeTheSoloShot(*g);
+            window.syncControlsFromState();
+        },
         [&screen] { return screen.modalFormsShown(); });
     driver.start();
     return app.exec();

@@ -50,6 +50,13 @@ QString labelColour(bool hover) {
         .arg(QColor(hover ? kLabelHover : kLabelRest).name());
 }
 
+// The break swing moves the aim marker a hundred times a second and changes nothing else.
+bool onlyMarkersDiffer(ControlsState shown, ControlsState now) {
+    shown.target = now.target = {};
+    shown.qBall = now.qBall = {};
+    return shown == now;
+}
+
 } // namespace
 
 MainWindow::MainWindow(GameState& g, QtScreen& screen) : QWidget(nullptr), g_(g) {
@@ -247,6 +254,12 @@ void MainWindow::mouseMoveEvent(QMouseEvent*) {
 
 void MainWindow::syncControlsFromState() {
     const ControlsState& c = g_.controls;
+    if (shownControls_ && onlyMarkersDiffer(*shownControls_, c)) {
+        picPool_->syncFromState();
+        shownControls_ = c;
+        return;
+    }
+    shownControls_ = c;
     syncing_ = true;
     setWindowTitle(QString::fromStdString(c.windowCaption));
     for (int i = 0; i < 3; ++i) {

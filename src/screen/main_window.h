@@ -18,6 +18,7 @@
 #include <QScrollBar>
 #include <QWidget>
 #include <array>
+#include <optional>
 
 namespace morvane {
 
@@ -29,7 +30,8 @@ class MainWindow : public QWidget {
   public:
     MainWindow(GameState& g, QtScreen& screen);
 
-    // Captions, enabled flags, values, markers and label colours from the game state.
+    // Captions, enabled flags, values, markers and label colours from the game state; only the
+    // markers when nothing else has changed since the last time.
     void syncControlsFromState();
 
     PoolView* picPool() const { return picPool_; }
@@ -83,7 +85,8 @@ class MainWindow : public QWidget {
     MenuScreen* picMenu_ = nullptr;
     ScoreScreen* picScore_ = nullptr;
     HiddenMenu* menu_ = nullptr;
-    std::array<int, 3> shownHover_{-1, -1, -1}; // the colour each label shows: 1 hover
+    std::array<int, 3> shownHover_{-1, -1, -1};  // the colour each label shows: 1 hover
+    std::optional<ControlsState> shownControls_; // what the controls were last brought to
     bool syncing_ = false;
 };
 

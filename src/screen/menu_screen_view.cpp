@@ -133,6 +133,8 @@ void MenuScreen::createLabels() {
         lblCopyright_[i]->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         lblCopyright_[i]->setFont(gameFont("Arial", kCopyrightPoints, true));
         lblCopyright_[i]->setStyleSheet(colourStyle(kCopyrightCyan));
+        // Labels lie under the pictures: the credit lines run across the lower part of Exit.
+        lblCopyright_[i]->lower();
     }
 }
 

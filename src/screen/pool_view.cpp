@@ -17,23 +17,22 @@ constexpr double kZephsMessagePoints = 14.25;
 constexpr QRgb kTargetCyan = qRgb(0, 255, 255);
 constexpr QRgb kQBallRed = qRgb(255, 0, 0);
 
-bool sameMarker(const MarkerState& a, const MarkerState& b) {
-    return a.left == b.left && a.top == b.top && a.visible == b.visible;
+// The square of ballPixels a marker's outline is drawn in, at the whole pixel nearest its place.
+QRect markerSquare(const MarkerState& marker) {
+    return QRect(qRound(marker.left), qRound(marker.top), kBallPixels, kBallPixels);
 }
 
-// The pixels a marker's outline may touch.
-QRect markerArea(const MarkerState& marker) {
-    return QRectF(marker.left, marker.top, kBallPixels, kBallPixels)
-        .toAlignedRect()
-        .adjusted(-1, -1, 1, 1);
+// Whether the two would show the same pixels: a move of less than half a pixel shows none.
+bool looksTheSame(const MarkerState& a, const MarkerState& b) {
+    return a.visible == b.visible && (!a.visible || markerSquare(a) == markerSquare(b));
 }
 
-// Repaints where a marker was and where it is now, if it moved.
+// Repaints where a marker was and where it is now, if that shows.
 void repaintMovedMarker(QWidget& view, const MarkerState& painted, const MarkerState& now) {
-    if (sameMarker(painted, now))
+    if (looksTheSame(painted, now))
         return;
-    view.update(markerArea(painted));
-    view.update(markerArea(now));
+    view.update(markerSquare(painted));
+    view.update(markerSquare(now));
 }
 
 // An outline of ballPixels across with its top left corner at the marker's place.
@@ -42,7 +41,8 @@ void drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour) {
         return;
     painter.setPen(QColor(colour));
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QRectF(marker.left, marker.top, kBallPixels - 1, kBallPixels - 1));
+    const QRect square = markerSquare(marker);
+    painter.drawEllipse(square.adjusted(0, 0, -1, -1));
 }
 
 } // namespace

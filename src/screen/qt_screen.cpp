@@ -21,36 +21,19 @@ QtScreen::QtScreen(GameState& g, const QImage& sheet, const QImage& cueBallPictu
                    const QImage& okPicture)
     : g_(g), s_(makeSurfaces(sheet, cueBallPicture)), okPicture_(okPicture) {}
 
-void QtScreen::viewChanged() {
-    viewDirty_ = true;
-    if (!widgets_.view)
-        return;
-    if (g_.controls.poolKeepsPicture) {
-        widgets_.view->update();
-    } else {
-        // During a shot the frames go straight to the screen.
-        widgets_.view->repaint();
-        viewDirty_ = false;
-    }
-}
-
 void QtScreen::drawTable() {
     drawTableFrame(g_, s_);
-    viewChanged();
+    refreshPool();
 }
 
 void QtScreen::drawBallNow(int ball) {
     drawBallOnView(g_, s_, ball);
-    viewDirty_ = true;
-    if (widgets_.view)
-        widgets_.view->update();
+    refreshPool();
 }
 
 void QtScreen::drawBallDrop(int ball, int pocket) {
     drawBallDropOnView(s_, ball, pocket);
-    viewDirty_ = true;
-    if (widgets_.view)
-        widgets_.view->update();
+    refreshPool();
 }
 
 void QtScreen::drawTray() {
@@ -68,14 +51,6 @@ void QtScreen::drawInformation() {
     showInfomation(g_, s_);
     if (widgets_.information)
         widgets_.information->update();
-}
-
-// Paints what the frame has drawn so far on the view, and lets nothing else run.
-void QtScreen::yieldToPaint() {
-    if (!viewDirty_ || !widgets_.view)
-        return;
-    widgets_.view->repaint();
-    viewDirty_ = false;
 }
 
 void QtScreen::runModal(QDialog& form, const std::function<void(QDialog&)>& beforeRunning) {

@@ -1,5 +1,10 @@
 // The screen the logic draws on: the table view, the tray, the information bar and the modal
 // message box, on Qt surfaces and widgets.
+//
+// Whatever a tick draws on the view shows when the tick has returned, in one paint: during a
+// shot as at rest. The balls drawn at a cushion inside a frame would stand on the screen only for
+// the microseconds until the frame's end covers them, so the motion engine's yield has nothing
+// to show, and the tick never waits for the display.
 #pragma once
 
 #include "game/game_state.h"
@@ -40,7 +45,6 @@ class QtScreen : public ScreenPort {
     void drawTray() override;
     void refreshPool() override;
     void drawInformation() override;
-    void yieldToPaint() override;
     void showMessage(const std::string& text) override;
     void showPlainMessage(const std::string& text) override;
     void showRecordForm() override;
@@ -51,8 +55,6 @@ class QtScreen : public ScreenPort {
     void openHelp() override;
 
   private:
-    // The view has changed: at rest it shows at the next paint, during a shot at once.
-    void viewChanged();
     // Holds the caller until the form has closed; the timers tick on under it.
     void runModal(QDialog& form, const std::function<void(QDialog&)>& beforeRunning);
 
@@ -60,7 +62,6 @@ class QtScreen : public ScreenPort {
     Surfaces s_;
     QImage okPicture_;
     ScreenWidgets widgets_;
-    bool viewDirty_ = false;
     int modalFormsShown_ = 0;
 };
 

@@ -2,16 +2,31 @@
 
 #include "startup/scheduler.h"
 
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
 #include <algorithm>
 #include <cstdlib>
 
 namespace morvane {
 
 namespace {
-constexpr int kPollMs = 1;
-// The longest sleep between two looks: a timer a handler switches on is seen this soon.
-constexpr int64_t kLongestSleepMs = 10;
 constexpr double kNanosPerMilli = 1e6;
+// The loop probe looks this often and writes down every look that came later than this.
+constexpr int kProbeMs = 2;
+constexpr double kProbeSlackMs = 1;
+
+std::FILE* openLog(const char* variable, const char* header) {
+    const char* path = std::getenv(variable);
+    if (!path || !*path)
+        return nullptr;
+    std::FILE* log = std::fopen(path, "w");
+    if (log)
+        std::fputs(header, log);
+    else
+        std::fprintf(stderr, "morvane: cannot write the log %s\n", path);
+    return log;
+}
+
 } // namespace
 
 TimerDriver::TimerDriver(GameState& g, std::function<void()> afterTicks,
@@ -20,35 +35,65 @@ TimerDriver::TimerDriver(GameState& g, std::function<void()> afterTicks,
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &TimerDriver::poll);
-    if (const char* path = std::getenv("MORVANE_TICK_LOG"); path && *path) {
-        tickLog_ = std::fopen(path, "w");
-        if (tickLog_)
-            std::fputs("start_ms cost_ms opened_form\n", tickLog_);
-        else
-            std::fprintf(stderr, "morvane: cannot write the tick log %s\n", path);
+    QCoreApplication::instance()->installEventFilter(this);
+    // Modal forms run their own event loops on the same dispatcher: this covers them too.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &TimerDriver::sleepUntilNextDue);
+    tickLog_ = openLog("MORVANE_TICK_LOG", "start_ms cost_ms opened_form\n");
+    timerLog_ = openLog("MORVANE_TIMER_LOG", "what at_ms late_ms\n");
+    if (timerLog_) {
+        loopProbe_.setTimerType(Qt::PreciseTimer);
+        connect(&loopProbe_, &QTimer::timeout, this, &TimerDriver::probeLoop);
     }
 }
 
 TimerDriver::~TimerDriver() {
-    if (tickLog_)
-        std::fclose(tickLog_);
+    for (std::FILE* log : {tickLog_, timerLog_}) {
+        if (log)
+            std::fclose(log);
+    }
 }
 
 void TimerDriver::start() {
     clock_.start();
     g_.nowMs = 0;
-    timer_.start(kPollMs);
+    sleepUntilNextDue();
+    if (timerLog_) {
+        lastProbeNs_ = clock_.nsecsElapsed();
+        loopProbe_.start(kProbeMs);
+    }
 }
 
-// Sleeps until the next timer is due, but never long, since handlers switch timers on too.
 void TimerDriver::sleepUntilNextDue() {
+    if (!clock_.isValid())
+        return; // not started
     const int64_t due = nextDueTime(g_);
-    const int64_t wait = due < 0 ? kLongestSleepMs : due - nowMs();
-    timer_.start(int(std::clamp<int64_t>(wait, kPollMs, kLongestSleepMs)));
+    if (due == wakeFor_ && (due < 0 || timer_.isActive()))
+        return;
+    wakeFor_ = due;
+    if (due < 0) {
+        timer_.stop();
+        return;
+    }
+    timer_.start(int(std::max<int64_t>(due - nowMs(), 0)));
+}
+
+int TimerDriver::msUntilWake() const {
+    return timer_.isActive() ? timer_.remainingTime() : -1;
 }
 
 int64_t TimerDriver::nowMs() const {
     return clock_.elapsed();
+}
+
+void TimerDriver::keepClock() {
+    if (clock_.isValid() && g_.nowMs < nowMs())
+        g_.nowMs = nowMs();
+}
+
+bool TimerDriver::eventFilter(QObject*, QEvent*) {
+    keepClock();
+    return false;
 }
 
 // Runs the due timers. Under a modal form this is called again from the form's own event loop,
@@ -58,18 +103,15 @@ void TimerDriver::poll() {
         TimerDriver& driver;
         ~SleepAfter() { driver.sleepUntilNextDue(); }
     } sleepAfter{*this};
-    // Until this look is over, look again soon: a handler that opens a modal form runs the
-    // form's own event loop, and the other timers must go on ticking under it.
-    timer_.start(kPollMs);
-    const int64_t now = nowMs();
-    // Handlers run between polls switch timers on from this moment.
-    if (g_.nowMs < now)
-        g_.nowMs = now;
+    wakeFor_ = -1; // the wake has come; a form opened by a handler sets the next one
+    keepClock();
+    const int64_t now = g_.nowMs;
     const int64_t due = nextDueTime(g_);
     if (due < 0 || due > now)
         return;
-    const TimerState& tick = g_.timers[kTimer1];
-    const bool gameTickDue = tick.enabled && !tick.running && tick.dueAt <= now;
+    const bool gameTickDue = isTimerDue(g_, kTimer1, now);
+    if (timerLog_)
+        logTimerTicks(now);
     const int formsBefore = modalCount_ ? modalCount_() : 0;
     const qint64 startedNs = clock_.nsecsElapsed();
     runDueTimers(g_, now);
@@ -85,6 +127,28 @@ void TimerDriver::poll() {
 void TimerDriver::logTick(double startedMs, double costMs, bool openedForm) {
     std::fprintf(tickLog_, "%.3f %.3f %d\n", startedMs, costMs, openedForm ? 1 : 0);
     std::fflush(tickLog_);
+}
+
+// The ticks of the game and of the break swing about to fire, with how late each comes.
+void TimerDriver::logTimerTicks(int64_t nowMs) {
+    const double atMs = clock_.nsecsElapsed() / kNanosPerMilli;
+    for (TimerId id : {kTimer1, kTimer2}) {
+        if (isTimerDue(g_, id, nowMs))
+            std::fprintf(timerLog_, "%s %.3f %.3f\n", id == kTimer1 ? "Timer1" : "Timer2", atMs,
+                         atMs - double(g_.timers[id].dueAt));
+    }
+    std::fflush(timerLog_);
+}
+
+// Looks every few milliseconds; a look that comes late means the event loop was held that long.
+void TimerDriver::probeLoop() {
+    const qint64 ns = clock_.nsecsElapsed();
+    const double lateMs = double(ns - lastProbeNs_) / kNanosPerMilli - kProbeMs;
+    lastProbeNs_ = ns;
+    if (lateMs > kProbeSlackMs) {
+        std::fprintf(timerLog_, "loop %.3f %.3f\n", ns / kNanosPerMilli, lateMs);
+        std::fflush(timerLog_);
+    }
 }
 
 } // namespace morvane

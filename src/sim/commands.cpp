@@ -5,6 +5,7 @@
 #include "sim/records_command.h"
 #include "sim/shot_command.h"
 #include "sim/solo_command.h"
+#include "sim/table_json.h"
 #include "sim/think_command.h"
 
 #include <iostream>
@@ -17,7 +18,10 @@ int usage(std::ostream& err) {
     err << "usage: morvane-sim COMMAND [options]\n"
            "commands (JSON out; the game's files are in $MORVANE_HOME):\n"
            "  shot [--seed N] [--trace]\n"
-           "      one shot: a table as JSON on stdin, the result on stdout\n"
+           "      one shot: a table as JSON on stdin, the result on stdout:\n"
+           "      {\"balls\": [ten {\"x\", \"y\", \"onTable\"}, the cue ball first], \"aim\": [x, "
+           "y],\n"
+           "       \"power\": 35..100, \"hit\": [side, follow], \"break\": true or false}\n"
            "  think --level L [--seed N]\n"
            "      zeph's turn up to the shot on a table from stdin (as for shot, with optional\n"
            "      ballInHand and breakPending): the plan, the aim, the power and the remark\n"
@@ -32,7 +36,25 @@ int usage(std::ostream& err) {
            "      for the record table\n"
            "  records\n"
            "      both record tables and zeph's level\n"
-           "bad input: one line on stderr and exit status 2\n";
+           "the table of shot and think (table units, every number finite):\n"
+           "  a ball on the table stands within the cushion lines "
+        << kCushionLines.text()
+        << ",\n"
+           "  no two closer than a ball's width, 100 (the rack's own balls excepted); the cue\n"
+           "  ball is on the table; a ball off the table lies within the table's frame\n"
+           "  "
+        << kTableFrame.text()
+        << "\n"
+           "  the aim lies where the mouse can put it over the table view:\n"
+           "  "
+        << kMouseReach.text()
+        << "\n"
+           "  the hit point: each part -1..1, the pair no longer than 1\n"
+           "  a break starts from the rack (the cue ball anywhere on the table) and is aimed\n"
+           "  where the break swing puts the aim: 100 from the foot spot (1800, 600) towards\n"
+           "  the head, at most 32.4 degrees to either side; without an aim, at (1700, 600)\n"
+           "exit status: 0 done; 2 bad input (one line on stderr); 3 done, but the records or\n"
+           "  zeph's level could not be saved (\"saved\": false, and one line on stderr a save)\n";
     return kBadInput;
 }
 

@@ -23,6 +23,7 @@ json gameToJson(int number, const DemoGame& game) {
     line.erase("balls");
     line["game"] = number;
     line["nine"] = game.nineBy;
+    line["rackedAnew"] = game.rackedAnew;
     return line;
 }
 
@@ -62,6 +63,8 @@ DemoGame playDemoGame(HeadlessSession& session, StrategyTally& tally,
         const ShotWatch::Change change = watch.look(g);
         if (g.gameMode != kModeDemo)
             break; // the tick that ended the game has cleared the counters
+        if (g.shotCount < game.shown.shots)
+            ++game.rackedAnew;
         game.shown = statisticsOf(g);
         if (change == ShotWatch::Change::ShotEnded && afterShot)
             afterShot(g);
@@ -95,6 +98,7 @@ int runDemoCommand(const std::vector<std::string>& options, std::ostream& out, s
     std::vector<int> shots;
     std::map<std::string, int> nineBy;
     int unfinished = 0;
+    int rackedAnew = 0;
     double seconds = 0;
     for (int k = 1; k <= games; ++k) {
         const DemoGame game = playDemoGame(session, tally);
@@ -105,11 +109,13 @@ int runDemoCommand(const std::vector<std::string>& options, std::ostream& out, s
         else
             ++unfinished;
         seconds += game.simulatedSeconds;
+        rackedAnew += game.rackedAnew;
     }
     out << json{{"summary", true},
                 {"games", games},
                 {"zephLevel", session.g.zephLevel},
                 {"unfinished", unfinished},
+                {"rackedAnew", rackedAnew},
                 {"nine", nineBy},
                 {"shotsPerGame", shotsSummary(shots)},
                 {"strategies", tally.counts},

@@ -15,10 +15,12 @@ namespace morvane::sim {
 // demo game, and the last shot changes none of them but the balls, which aren't kept.
 struct DemoGame : PlayedGame {
     std::string nineBy; // the side of the shot that ended the game: "You" or "zeph"
+    int rackedAnew = 0; // times the game went 30 shots without a pot and was racked again
 };
 
 // Starts the demo from the menu and runs the timers until it is back on the menu. afterShot, when
-// given, sees the table at the end of every shot that doesn't end the game.
+// given, sees the table at the end of every shot that doesn't end the game (a fresh rack after a
+// shot that racked the game anew).
 DemoGame playDemoGame(HeadlessSession& session, StrategyTally& tally,
                       const std::function<void(const GameState&)>& afterShot = nullptr);
 

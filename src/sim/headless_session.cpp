@@ -5,6 +5,7 @@
 #include "rules/match.h"
 #include "rules/modes.h"
 #include "startup/scheduler.h"
+#include "startup/settings.h"
 
 #include <utility>
 
@@ -17,6 +18,7 @@ HeadlessSession::HeadlessSession(uint64_t seed, FormAnswers answers)
     g.ports.clock = &clock_;
     initTimers(g);
     initPocketTable(g);
+    removeUnfinishedSaves();
     loadZephLevel(g);
     loadSoloRecord(g);
     loadVsCpuRecord(g);

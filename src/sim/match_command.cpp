@@ -2,8 +2,10 @@
 
 #include "cpu/cpu_constants.h"
 #include "game/text.h"
+#include "records/text_bytes.h"
 #include "rules/modes.h"
 #include "sim/command_options.h"
+#include "sim/commands.h"
 #include "sim/played_game.h"
 #include "sim/records_json.h"
 
@@ -59,20 +61,21 @@ struct Tally {
 bool playMatch(HeadlessSession& session, StandInPlayer& you, int number, Tally& tally,
                std::ostream& out) {
     GameState& g = session.g;
+    const ScoreSaves before = scoreSaves(g);
     for (int game = 1;; ++game) {
         const PlayedGame played = playToEndOfGame(session, you);
         json line = playedGameToJson(played);
         line["match"] = number;
         line["game"] = game;
         if (!played.ended) {
-            out << line.dump() << "\n";
+            out << jsonLine(line);
             ++tally.unfinished;
             return false;
         }
         const ShownStatistics& s = played.shown;
         line["winner"] = kSideNames[s.winner];
         line["score"] = s.gamesWon;
-        out << line.dump() << "\n";
+        out << jsonLine(line);
         ++tally.games[s.winner];
         if (!s.matchOver)
             continue;
@@ -83,7 +86,8 @@ bool playMatch(HeadlessSession& session, StandInPlayer& you, int number, Tally& 
                     {"zephWon", s.gamesWon[kZeph]},
                     {"recordPlace", takeNewRowPlace(g, g.vsCpuRecords)}};
         addZephLevel(result, g);
-        out << result.dump() << "\n";
+        result["saved"] = savedSince(g, before);
+        out << jsonLine(result);
         return true;
     }
 }
@@ -99,13 +103,14 @@ int runMatchCommand(const std::vector<std::string>& options, std::ostream& out, 
 
     FormAnswers answers;
     if (opts.has("--name"))
-        answers.firstName = opts.text("--name");
+        answers.firstName = utf8FromAnyBytes(opts.text("--name"));
     answers.matchLength = int16_t(read.target);
     HeadlessSession session(read.seed, answers);
     GameState& g = session.g;
     if (opts.has("--level"))
         g.zephLevel = int16_t(read.level);
     const int16_t startLevel = g.zephLevel;
+    const ScoreSaves before = scoreSaves(g);
     picVSCPU_Click(g, 0);
     StandInPlayer you{int16_t(read.youLevel)};
     Tally tally;
@@ -120,8 +125,9 @@ int runMatchCommand(const std::vector<std::string>& options, std::ostream& out, 
                  {"gamesWon", {{"You", tally.games[kYou]}, {"zeph", tally.games[kZeph]}}},
                  {"unfinished", tally.unfinished}};
     addZephLevel(summary, g);
-    out << summary.dump() << "\n";
-    return 0;
+    summary["saved"] = savedSince(g, before);
+    out << jsonLine(summary);
+    return summary["saved"] == false ? kNotSaved : 0;
 }
 
 } // namespace morvane::sim

@@ -1,43 +1,13 @@
 #include "sim/play_watch.h"
 
 #include "cpu/cpu_constants.h"
+#include "cpu/shot_choice.h"
 #include "game/table_queries.h"
 #include "game/timers.h"
 
 #include <array>
 
 namespace morvane::sim {
-
-namespace {
-
-struct RemarkOfStrategy {
-    const char* remark;
-    const char* strategy;
-    bool combination;
-};
-
-constexpr std::array<RemarkOfStrategy, 10> kRemarks{{
-    {"Simple is best.", "tryDirect", false},
-    {"Easy for me.", "tryDirectCombination", false},
-    {"Combination Shot!", "tryDirectCombination", true},
-    {".......", "tryObjectBank", false},
-    {"Bank Shot.", "tryCueBank", false},
-    {"Bank Shot!", "tryCueBankCombination", false},
-    {"Bank & Conbination Shot!", "tryCueBankCombination", true},
-    {"Difficalt !", "tryJustHit", false},
-    {"I can't Poket.", "tryCushionHit", false},
-    {"I can do nothing!", "none", false},
-}};
-
-const RemarkOfStrategy* findRemark(const std::string& remark) {
-    for (const RemarkOfStrategy& r : kRemarks) {
-        if (remark == r.remark)
-            return &r;
-    }
-    return nullptr;
-}
-
-} // namespace
 
 ShotWatch::Change ShotWatch::look(const GameState& g) {
     const bool rolling = isTimerEnabled(g, kTimer1);
@@ -50,9 +20,18 @@ ShotWatch::Change ShotWatch::look(const GameState& g) {
     return !rolling && was ? Change::ShotEnded : Change::None;
 }
 
-std::string strategyOfRemark(const std::string& remark) {
-    const RemarkOfStrategy* found = findRemark(remark);
-    return found ? found->strategy : "";
+const char* strategyName(Strategy strategy) {
+    // In the order of Strategy.
+    static constexpr std::array<const char*, 8> kNames{
+        "none",          "tryDirect",    "tryDirectCombination",
+        "tryObjectBank", "tryCueBank",   "tryCueBankCombination",
+        "tryJustHit",    "tryCushionHit"};
+    return kNames[size_t(strategy)];
+}
+
+bool playsCombination(const ShotPlan& plan) {
+    return plan.roadHoldsBall && (plan.strategy == Strategy::DirectCombination ||
+                                  plan.strategy == Strategy::CueBankCombination);
 }
 
 void StrategyTally::look(const GameState& g) {
@@ -61,9 +40,9 @@ void StrategyTally::look(const GameState& g) {
     lastTick_ = tick;
     if (!decided || g.breakPending)
         return;
-    const RemarkOfStrategy* found = findRemark(g.controls.zephsMessage);
-    ++counts[found ? found->strategy : "unknown: " + g.controls.zephsMessage];
-    if (found && found->combination)
+    const ShotPlan plan = choosePlan(g, g.zephLevel);
+    ++counts[strategyName(plan.strategy)];
+    if (playsCombination(plan))
         ++combinations;
 }
 

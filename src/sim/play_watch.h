@@ -2,6 +2,7 @@
 // and end, and which of zeph's strategies gave the plan of each decision.
 #pragma once
 
+#include "cpu/shot_plan.h"
 #include "game/game_state.h"
 
 #include <map>
@@ -24,12 +25,14 @@ class ShotWatch {
     int16_t shooter_ = -1;
 };
 
-// The strategy whose plan zeph shoots with, told by the English remark that the plan left: every
-// strategy that improves the plan speaks, each with remarks of its own, so the last to speak gave
-// the plan. "none" when nothing was found; "" for a remark no strategy makes.
-std::string strategyOfRemark(const std::string& remark);
+// The strategy by the name of its search ("tryDirect", ...), or "none" when nothing was found.
+const char* strategyName(Strategy strategy);
+// The plan sends one object ball onto the target.
+bool playsCombination(const ShotPlan& plan);
 
-// Counts the strategies of every decision, read just after the decision tick of zeph's turn.
+// Counts the strategies of every decision, read just after the decision tick of zeph's turn. zeph's
+// plan is a function of the table alone, and the table stands still while he aims, so the plan is
+// asked for again on the table he decided on.
 class StrategyTally {
   public:
     void look(const GameState& g);

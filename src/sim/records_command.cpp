@@ -19,7 +19,7 @@ int runRecordsCommand(const std::vector<std::string>& options, std::ostream& out
     nlohmann::json records{{"soloRecords", soloRecordsToJson(g)},
                            {"vsCpuRecords", vsCpuRecordsToJson(g)}};
     addZephLevel(records, g);
-    out << records.dump() << "\n";
+    out << jsonLine(records);
     return 0;
 }
 

@@ -41,4 +41,19 @@ void addZephLevel(json& object, const GameState& g) {
     object["zephProgress"] = g.zephProgress;
 }
 
+ScoreSaves scoreSaves(const GameState& g) {
+    return {g.scoreFileSaves, g.failedScoreFileSaves};
+}
+
+json savedSince(const GameState& g, ScoreSaves before) {
+    const ScoreSaves now = scoreSaves(g);
+    if (now.made == before.made)
+        return nullptr;
+    return now.failed == before.failed;
+}
+
+std::string jsonLine(const json& object) {
+    return object.dump(-1, ' ', false, json::error_handler_t::replace) + "\n";
+}
+
 } // namespace morvane::sim

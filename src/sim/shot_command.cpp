@@ -6,6 +6,7 @@
 #include "game/shot_input.h"
 #include "game/table_queries.h"
 #include "sim/command_options.h"
+#include "sim/table_checks.h"
 #include "sim/table_json.h"
 
 #include <cmath>
@@ -21,17 +22,16 @@ namespace {
 constexpr int kMaxShotFrames = 20000;
 // A hit point a hair beyond the rim still counts, as the selector can give one.
 constexpr double kHitPointSlack = 1e-6;
+constexpr Box kHitSquare{-1, 1, -1, 1};
 
 // The hit point [spinSide, spinFollow], each -1..1, the pair no longer than 1.
 std::string readHitPoint(const json& input, BallType& cue) {
     if (!input.contains("hit"))
         return "";
     PointType hit;
-    std::string error = readPoint(input, "hit", hit);
+    const std::string error = readPoint(input, "hit", kHitSquare, hit);
     if (!error.empty())
-        return "hit: expected [spinSide, spinFollow] with numbers";
-    if (std::fabs(hit.x) > 1 || std::fabs(hit.y) > 1)
-        return "hit: each of spinSide and spinFollow must lie from -1 to 1";
+        return error;
     if (std::hypot(double(hit.x), double(hit.y)) > 1 + kHitPointSlack)
         return "hit: the hit point lies beyond the rim of the ball (length above 1)";
     cue.spinSide = hit.x;
@@ -45,17 +45,21 @@ std::string readShot(const json& input, GameState& g) {
     std::string error = readBalls(input, g.Balls);
     if (error.empty() && input.contains("balls") && !input.contains("aim"))
         error = "aim: missing (needed with balls)";
-    PointType aim{g.aimX, g.aimY};
-    if (error.empty())
-        error = readPoint(input, "aim", aim);
-    int power = kPowerMax;
-    if (error.empty())
-        error = readWholeNumber(input, "power", kPowerMin, kPowerMax, power);
     bool isBreak = false;
     if (error.empty())
         error = readFlag(input, "break", isBreak);
+    PointType aim = isBreak ? straightBreakAim() : PointType{g.aimX, g.aimY};
+    if (error.empty())
+        error = readPoint(input, "aim", kMouseReach, aim);
+    int power = kPowerMax;
+    if (error.empty())
+        error = readWholeNumber(input, "power", kPowerMin, kPowerMax, power);
     if (error.empty())
         error = readHitPoint(input, g.Balls[kCueBall]);
+    if (error.empty())
+        error = checkBallPlaces(g.Balls);
+    if (error.empty() && isBreak)
+        error = checkBreak(g.Balls, aim);
     if (!error.empty())
         return error;
     g.aimX = aim.x;

@@ -1,8 +1,10 @@
 #include "sim/solo_command.h"
 
 #include "cpu/cpu_constants.h"
+#include "records/text_bytes.h"
 #include "rules/modes.h"
 #include "sim/command_options.h"
+#include "sim/commands.h"
 #include "sim/played_game.h"
 #include "sim/records_json.h"
 
@@ -25,9 +27,10 @@ int runSoloCommand(const std::vector<std::string>& options, std::ostream& out, s
         return reportBadInput(err, "solo", error);
 
     FormAnswers answers;
-    answers.recordName = opts.text("--name");
+    answers.recordName = utf8FromAnyBytes(opts.text("--name"));
     HeadlessSession session(seed, answers);
     GameState& g = session.g;
+    const ScoreSaves before = scoreSaves(g);
     picSoloPlay_Click(g, 0);
     StandInPlayer player{int16_t(level)};
     const PlayedGame game = playToEndOfGame(session, player);
@@ -38,8 +41,9 @@ int runSoloCommand(const std::vector<std::string>& options, std::ostream& out, s
     result["place"] = place;
     result["recordName"] = place.is_null() ? nlohmann::json(nullptr)
                                            : nlohmann::json(g.soloRecords[place.get<int>()].Name);
-    out << result.dump() << "\n";
-    return 0;
+    result["saved"] = savedSince(g, before);
+    out << jsonLine(result);
+    return result["saved"] == false ? kNotSaved : 0;
 }
 
 } // namespace morvane::sim

@@ -1,8 +1,14 @@
 #include "sim/table_json.h"
 
+#include "game/view_coords.h"
+
 #include <cmath>
+#include <cstdint>
+#include <iomanip>
 #include <istream>
 #include <iterator>
+#include <limits>
+#include <sstream>
 
 namespace morvane::sim {
 
@@ -10,8 +16,15 @@ using nlohmann::json;
 
 namespace {
 
-bool insideCushionLines(double x, double y) {
-    return x >= kCushionLeftX && x <= kCushionRightX && y >= kCushionBottomY && y <= kCushionTopY;
+// The table view's border of 30 pixels, at five table units a pixel.
+constexpr double kFrameMargin = 150;
+constexpr float kLowestPixel = std::numeric_limits<int16_t>::min();
+constexpr float kHighestPixel = std::numeric_limits<int16_t>::max();
+
+std::string number(double value) {
+    std::ostringstream text;
+    text << std::setprecision(10) << value;
+    return text.str();
 }
 
 std::string readBall(const json& item, const std::string& field, BallType& ball) {
@@ -31,9 +44,10 @@ std::string readBall(const json& item, const std::string& field, BallType& ball)
         error = readFlag(item, field + ".onTable", onTable);
     if (!error.empty())
         return error;
-    if (onTable && !insideCushionLines(x, y))
-        return field + ": (" + std::to_string(x) + ", " + std::to_string(y) +
-               ") lies outside the cushion lines 50..2350 x 50..1150";
+    const Box& box = onTable ? kCushionLines : kTableFrame;
+    if (!box.holds(x, y))
+        return field + ": (" + number(x) + ", " + number(y) + ") lies outside " +
+               (onTable ? "the cushion lines " : "the table's frame ") + box.text();
     ball = BallType{};
     ball.x = ball.prevX = float(x);
     ball.y = ball.prevY = float(y);
@@ -62,8 +76,25 @@ std::string readTyped(const json& input, const std::string& field,
 
 } // namespace
 
+bool Box::holds(double x, double y) const {
+    return x >= left && x <= right && y >= bottom && y <= top;
+}
+
+std::string Box::text() const {
+    return number(left) + ".." + number(right) + " x " + number(bottom) + ".." + number(top);
+}
+
+const Box kCushionLines{kCushionLeftX, kCushionRightX, kCushionBottomY, kCushionTopY};
+const Box kTableFrame{-kFrameMargin, kTableLength + kFrameMargin, -kFrameMargin,
+                      kTableWidth + kFrameMargin};
+const Box kMouseReach{pixelToTableX(kLowestPixel), pixelToTableX(kHighestPixel),
+                      pixelToTableY(kHighestPixel), pixelToTableY(kLowestPixel)};
+
 std::string readInputObject(std::istream& in, json& object) {
     const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    const auto nul = text.find('\0');
+    if (nul != std::string::npos)
+        return "input: a NUL byte at offset " + std::to_string(nul);
     object = json::parse(text, nullptr, false);
     if (object.is_discarded())
         return "input: not valid JSON";
@@ -73,7 +104,10 @@ std::string readInputObject(std::istream& in, json& object) {
 }
 
 std::string readNumber(const json& input, const std::string& field, double& value) {
-    return readTyped(input, field, &json::is_number, "a number", value);
+    const std::string error = readTyped(input, field, &json::is_number, "a number", value);
+    if (error.empty() && !std::isfinite(value))
+        return field + ": expected a finite number";
+    return error;
 }
 
 std::string readWholeNumber(const json& input, const std::string& field, int low, int high,
@@ -96,7 +130,8 @@ std::string readFlag(const json& input, const std::string& field, bool& value) {
     return readTyped(input, field, &json::is_boolean, "true or false", value);
 }
 
-std::string readPoint(const json& input, const std::string& field, PointType& point) {
+std::string readPoint(const json& input, const std::string& field, const Box& box,
+                      PointType& point) {
     if (!input.contains(field))
         return "";
     const json& item = input[field];
@@ -112,6 +147,8 @@ std::string readPoint(const json& input, const std::string& field, PointType& po
     } else {
         return field + ": expected [x, y] or {\"x\": x, \"y\": y} with numbers";
     }
+    if (!box.holds(x, y))
+        return field + ": (" + number(x) + ", " + number(y) + ") lies outside " + box.text();
     point = {float(x), float(y)};
     return "";
 }

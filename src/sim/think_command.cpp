@@ -8,6 +8,7 @@
 #include "sim/command_options.h"
 #include "sim/headless_session.h"
 #include "sim/play_watch.h"
+#include "sim/table_checks.h"
 #include "sim/table_json.h"
 
 #include <ostream>
@@ -22,16 +23,18 @@ std::string readTable(const json& input, GameState& g) {
     rackBalls(g);
     g.breakPending = false;
     g.ballInHand = false;
-    PointType aim{g.aimX, g.aimY};
     std::string error = readBalls(input, g.Balls);
-    if (error.empty())
-        error = readPoint(input, "aim", aim);
     if (error.empty())
         error = readFlag(input, "ballInHand", g.ballInHand);
     if (error.empty())
         error = readFlag(input, "breakPending", g.breakPending);
-    if (error.empty() && !g.Balls[kCueBall].onTable)
-        error = "balls[0]: the cue ball must be on the table";
+    PointType aim = g.breakPending ? straightBreakAim() : PointType{g.aimX, g.aimY};
+    if (error.empty())
+        error = readPoint(input, "aim", kMouseReach, aim);
+    if (error.empty())
+        error = checkBallPlaces(g.Balls);
+    if (error.empty() && g.breakPending)
+        error = checkBreak(g.Balls, aim);
     if (error.empty() && getLowestBall(g) == 0)
         error = "balls: no object ball is on the table";
     g.aimX = aim.x;
@@ -70,25 +73,26 @@ int runThinkCommand(const std::vector<std::string>& options, std::istream& in, s
         return reportBadInput(err, "think", error);
 
     // zeph's turn in a match, tick by tick up to the one that shoots. The plan is worked out
-    // again on a copy of the table as the decision tick finds it: the decision keeps it to itself.
+    // again on the table as the decision tick finds it: the decision keeps it to itself.
     g.gameMode = kModeVersus;
     g.zephLevel = int16_t(level);
     json plan = nullptr;
+    std::string strategy;
     while (g.cpuTickCounter < kTickShoot) {
         if (g.cpuTickCounter == kTickThink && !g.breakPending) {
-            GameState copy = g;
-            plan = planToJson(choosePlan(copy, copy.zephLevel));
+            const ShotPlan chosen = choosePlan(g, g.zephLevel);
+            plan = planToJson(chosen);
+            strategy = strategyName(chosen.strategy);
         }
         timCom_Timer(g);
     }
-    const std::string& remark = g.controls.zephsMessage;
     out << json{{"level", level},
                 {"plan", plan},
                 {"aimX", g.aimX},
                 {"aimY", g.aimY},
                 {"power", g.controls.power},
-                {"remark", remark},
-                {"strategy", strategyOfRemark(remark)},
+                {"remark", g.controls.zephsMessage},
+                {"strategy", strategy},
                 {"cue", {g.Balls[kCueBall].x, g.Balls[kCueBall].y}}}
                .dump()
         << "\n";

@@ -3,8 +3,10 @@
 namespace morvane {
 
 SdlSound::SdlSound(const std::filesystem::path& folder, std::ostream& warnings, int bufferSamples)
-    : warnings_(warnings), device_(warnings_, bufferSamples), effects_(folder, warnings_),
-      music_(folder, warnings_) {}
+    : warnings_(warnings), device_(warnings_, bufferSamples), effects_(folder, warnings_) {
+    if (device_.isOpen())
+        music_.emplace(folder, warnings_, loader_, device_.rate());
+}
 
 void SdlSound::playEffect(const std::string& file, int flags) {
     if (device_.isOpen())
@@ -12,16 +14,16 @@ void SdlSound::playEffect(const std::string& file, int flags) {
 }
 
 void SdlSound::sendMusic(const std::string& command) {
-    if (device_.isOpen())
-        music_.command(command);
+    if (music_)
+        music_->command(command);
 }
 
 std::string SdlSound::effectPlaying() const {
     return device_.isOpen() ? effects_.playing() : std::string();
 }
 
-std::string SdlSound::musicPlaying() const {
-    return device_.isOpen() ? music_.playing() : std::string();
+std::string SdlSound::musicPlaying() {
+    return music_ ? music_->playing() : std::string();
 }
 
 } // namespace morvane

@@ -4,12 +4,14 @@
 
 #include "game/ports.h"
 #include "sound/effect_channel.h"
+#include "sound/loading_worker.h"
 #include "sound/mixer_device.h"
 #include "sound/music_tracks.h"
 #include "sound/warn_once.h"
 
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 
 namespace morvane {
@@ -25,14 +27,18 @@ class SdlSound : public SoundPort {
 
     bool hasDevice() const { return device_.isOpen(); }
     std::string effectPlaying() const;
-    std::string musicPlaying() const;
-    bool isMusicOpen(const std::string& name) const { return music_.isOpen(name); }
+    std::string musicPlaying();
+    bool isMusicOpen(const std::string& name) const { return music_ && music_->isOpen(name); }
+    int tunesInMemory() const { return music_ ? music_->tunesInMemory() : 0; }
+    // Returns once the soundfont and every tune opened so far have been read.
+    void waitForMusicLoads() { loader_.waitUntilIdle(); }
 
   private:
     WarnOnce warnings_;
     MixerDevice device_; // opened before the effects and tunes, closed after them
+    LoadingWorker loader_;
     EffectChannel effects_;
-    MusicTracks music_;
+    std::optional<MusicTracks> music_; // only with a device
 };
 
 } // namespace morvane

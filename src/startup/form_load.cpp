@@ -72,6 +72,7 @@ bool Form_Load(GameState& g, const std::string& commandLine, StartupPlatform& pl
         platform.showPlainMessage(g.isJapanese ? kTwiceJapanese : kTwiceEnglish);
         return false;
     }
+    removeUnfinishedSaves();
     pass(g, platform, 2);
     pass(g, platform, 3);
 

@@ -19,24 +19,42 @@ constexpr int32_t kTimDemoInterval = 1000;
 constexpr int32_t kTimTimeCounterInterval = 1000;
 constexpr int32_t kTimBgmInterval = 500;
 
-bool mayFire(const TimerState& t) {
-    return t.enabled && !t.running;
+// The break swing moves nothing but the aim marker on the table; while the menu or the record
+// screen covers the table nobody could see it, and it rests.
+bool restsUnseen(const GameState& g, TimerId id) {
+    return id == kTimer2 && (g.controls.menuVisible || g.controls.scoreVisible);
+}
+
+bool mayFire(const GameState& g, TimerId id) {
+    const TimerState& t = g.timers[id];
+    return t.enabled && !t.running && !restsUnseen(g, id);
 }
 
 // The timer due soonest at or before `nowMs`, lowest number first on a tie; kTimerCount if none.
 TimerId dueTimer(const GameState& g, int64_t nowMs) {
     TimerId best = kTimerCount;
     for (int i = 0; i < kTimerCount; ++i) {
-        const TimerState& t = g.timers[i];
-        if (mayFire(t) && t.dueAt <= nowMs &&
-            (best == kTimerCount || t.dueAt < g.timers[best].dueAt))
+        if (isTimerDue(g, TimerId(i), nowMs) &&
+            (best == kTimerCount || g.timers[i].dueAt < g.timers[best].dueAt))
             best = TimerId(i);
     }
     return best;
 }
 
+// A swing back from its rest, or late, has its phase carried on by the ticks it missed.
+void catchUpSwing(GameState& g, int64_t nowMs) {
+    TimerState& t = g.timers[kTimer2];
+    const int64_t missed = (nowMs - t.dueAt) / t.interval;
+    if (missed <= 0)
+        return;
+    carrySwingOn(g, missed);
+    t.dueAt += missed * t.interval;
+}
+
 void fireOnce(GameState& g, TimerId id, int64_t nowMs) {
     TimerState& t = g.timers[id];
+    if (id == kTimer2)
+        catchUpSwing(g, nowMs);
     const int64_t due = t.dueAt;
     t.running = true;
     fireTimer(g, id);
@@ -93,12 +111,20 @@ void runDueTimers(GameState& g, int64_t nowMs) {
         fireOnce(g, id, nowMs);
 }
 
+bool isTimerDue(const GameState& g, TimerId timer, int64_t nowMs) {
+    return mayFire(g, timer) && g.timers[timer].dueAt <= nowMs;
+}
+
 int64_t nextDueTime(const GameState& g) {
     int64_t best = -1;
-    for (const TimerState& t : g.timers) {
-        if (mayFire(t) && (best < 0 || t.dueAt < best))
+    for (int i = 0; i < kTimerCount; ++i) {
+        const TimerState& t = g.timers[i];
+        if (mayFire(g, TimerId(i)) && (best < 0 || t.dueAt < best))
             best = t.dueAt;
     }
+    // A swing back from its rest is overdue: it fires now, not back then.
+    if (best >= 0 && best < g.nowMs)
+        best = g.nowMs;
     return best;
 }
 

@@ -3,6 +3,8 @@
 //
 // A timer fires at most once per due time, late ticks are not made up, and a timer never fires
 // while its own handler is still running (a modal form shown by a handler lets the others tick).
+// The break swing rests while the menu or the record screen covers the table: it neither fires
+// nor counts as due, and comes back with its phase carried on by the ticks it missed.
 #pragma once
 
 #include "game/game_state.h"
@@ -22,7 +24,10 @@ void advanceVirtualTime(GameState& g, int64_t untilMs);
 // Virtual time until `done` holds or `limitMs` has passed; returns whether `done` held.
 template <typename Done> bool advanceUntil(GameState& g, int64_t limitMs, Done done);
 
-// The earliest due time of a timer that may fire now, or -1 when none is on.
+// Whether the timer is due at `nowMs` and may fire.
+bool isTimerDue(const GameState& g, TimerId timer, int64_t nowMs);
+// When the next timer that may fire is due (now, if one is overdue), or -1 when none is on; a
+// resting swing is not on.
 int64_t nextDueTime(const GameState& g);
 
 template <typename Done> bool advanceUntil(GameState& g, int64_t limitMs, Done done) {

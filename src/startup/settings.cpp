@@ -1,9 +1,11 @@
 #include "startup/settings.h"
 
 #include "game/text.h"
+#include "records/atomic_file.h"
 #include "records/data_folder.h"
 #include "records/integer16.h"
 #include "records/profile_file.h"
+#include "records/record_constants.h"
 #include "rules/music.h"
 
 namespace morvane {
@@ -33,9 +35,8 @@ constexpr int16_t clickFor(bool on) {
 constexpr const char* kTrueColorNotice = "色数をTrue Colorに変更します。次回起動から有効です。";
 constexpr const char* k256ColorNotice = "色数を256色に変更します。次回起動から有効です。";
 
-int16_t readSetting(const char* key, int16_t defaultValue) {
-    return toInteger16(
-        GetPrivateProfileIntA(kSettingsSection, key, defaultValue, settingsFilePath()));
+int16_t readSetting(const IniDocument& file, const char* key, int16_t defaultValue) {
+    return toInteger16(file.readInt(kSettingsSection, key, defaultValue));
 }
 
 void writeSetting(const char* key, int16_t value) {
@@ -49,12 +50,17 @@ std::string settingsFilePath() {
 }
 
 void readHiColorSetting(GameState& g) {
-    g.hiColor = readSetting(kHiColorKey, kInnerPictures);
+    g.hiColor = readSetting(loadProfile(settingsFilePath()), kHiColorKey, kInnerPictures);
 }
 
 void readSoundAndMusicSettings(GameState& g) {
-    g.soundOn = readSetting(kSoundKey, kSoundOn);
-    g.bgmOn = readSetting(kBgmKey, kDefaultBgm);
+    const IniDocument file = loadProfile(settingsFilePath());
+    g.soundOn = readSetting(file, kSoundKey, kSoundOn);
+    g.bgmOn = readSetting(file, kBgmKey, kDefaultBgm);
+}
+
+void removeUnfinishedSaves() {
+    removeUnfinishedSaves(getWindowsPath(), {kScoreFileName, kSettingsFileName});
 }
 
 void picSound_Click(GameState& g, int16_t index) {

@@ -10,6 +10,10 @@ namespace morvane {
 
 std::string settingsFilePath();
 
+// Clears from the game's folder the temporary files that saves of the settings and the score file
+// cut off by a crash or a kill left behind; a save still under way in another copy keeps its own.
+void removeUnfinishedSaves();
+
 // hiColor from HiColor (default -1): which set of pictures this run loads.
 void readHiColorSetting(GameState& g);
 // soundOn from SOUND (default 1) and bgmOn from BGM (default -1).

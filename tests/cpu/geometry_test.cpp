@@ -29,7 +29,7 @@ TEST(PocketTable, MirrorsTheFarPocketsFiftyFurtherOutBehindEachCushion) {
         {{50, -1100}, {1200, -1100}, {2350, -1100}},
     };
     for (int16_t cushion = 101; cushion <= 104; ++cushion) {
-        mirrorPockets(g, cushion);
+        mirrorPockets(g.pocketTable, cushion);
         for (int e = 7; e <= 9; ++e) {
             SCOPED_TRACE(::testing::Message() << "cushion " << cushion << " entry " << e);
             const auto& image = images[cushion - 101][e - 7];
@@ -126,7 +126,7 @@ TEST(BankPoint, ReportsBlockedLegsAndARoadWithNoBankPoint) {
     GameState g = tableWithCueAt(600, 600);
     const PointType from{600, 600};
     const PointType to{1800, 600}; // by way of (1200, 1150)
-    putBall(g.Balls, 1, 900, 875); // on the first leg: even the named ball counts there
+    putBall(g.Balls, 1, 900, 875);       // on the first leg: even the named ball counts there
     EXPECT_TRUE(findBankPoint(g, from, to, 103, 1).blocked);
     putBall(g.Balls, 1, 1500, 875); // on the second leg: the named ball is left out
     EXPECT_FALSE(findBankPoint(g, from, to, 103, 1).blocked);
@@ -138,12 +138,12 @@ TEST(BankPoint, ReportsBlockedLegsAndARoadWithNoBankPoint) {
 TEST(Combination, TheLowestNumberedBallBetweenPocketAndTargetBecomesTheSecondBall) {
     GameState g = tableWithCueAt(550, 950);
     putBall(g.Balls, 1, 1450, 500);
-    EXPECT_FALSE(isCombinationPocket(g, 6));
+    EXPECT_FALSE(isCombinationPocket(g, g.pocketTable[6]));
     expectPoint(ghostForPocket(g, 6), 1360.5573f, 544.7214f);
 
     putBall(g.Balls, 4, 1900, 300); // 22.4 off the line from pocket 6 to the target
-    EXPECT_TRUE(isCombinationPocket(g, 6));
-    EXPECT_FALSE(isCombinationPocket(g, 3));
+    EXPECT_TRUE(isCombinationPocket(g, g.pocketTable[6]));
+    EXPECT_FALSE(isCombinationPocket(g, g.pocketTable[3]));
     expectPoint(ghostForPocket(g, 6), 1357.7248f, 538.5394f);
 
     putBall(g.Balls, 2, 2200, 130); // farther from the target than ball 4, but the lower number

@@ -28,6 +28,12 @@ TEST(Power, ComesFromTheRunsFromLevelThreeBoundFirstThenCut) {
     EXPECT_EQ(powerForPlan(2, planWithRuns(500, 300)), 100);
 }
 
+TEST(MissChance, FallsFromEightTenthsAtLevelOneToAHundredthForTheMaster) {
+    EXPECT_EQ(getMissChance(1), 0.8f);
+    EXPECT_EQ(getMissChance(10), 0.05f);
+    EXPECT_EQ(getMissChance(11), 0.01f);
+}
+
 TEST(ChoosePlan, TheWorkedTableIsADirectPotBelowLevelFiveAndAnObjectBankFromThere) {
     for (int16_t level = 1; level <= 11; ++level) {
         GameState g = workedTable();
@@ -45,23 +51,20 @@ TEST(ChoosePlan, OnlyLevelsNineAndUpBankTheCueBallWhenNoPotCutsUnder30Degrees) {
         putBall(g.Balls, 2, 1300, 780);
         return g;
     };
-    GameState eight = table();
-    EXPECT_EQ(choosePlan(eight, 8).cutAngle, 3.1415925f);
-    EXPECT_EQ(eight.controls.zephsMessage, "I can't Poket.");
+    const GameState g = table();
+    const ShotPlan eight = choosePlan(g, 8);
+    EXPECT_EQ(eight.cutAngle, 3.1415925f);
+    EXPECT_EQ(eight.strategy, Strategy::CushionHit);
 
     // Off the bottom cushion onto the ghost point for pocket 3.
-    GameState nine = table();
-    const ShotPlan bank = choosePlan(nine, 9);
+    const ShotPlan bank = choosePlan(g, 9);
     EXPECT_NEAR(bank.planX, 1031.2493, 0.01);
     EXPECT_EQ(bank.planY, 50);
     EXPECT_NEAR(degrees(bank.cutAngle), 22.8838, 0.005);
     EXPECT_NEAR(bank.cueRun, 1958.1142, 0.05);
     EXPECT_NEAR(bank.ballRun, 380.7887, 0.05);
-    EXPECT_EQ(nine.controls.zephsMessage, "Bank Shot.");
-
-    GameState ten = table();
-    choosePlan(ten, 10);
-    EXPECT_EQ(ten.controls.zephsMessage, "Bank Shot!");
+    EXPECT_EQ(bank.strategy, Strategy::CueBank);
+    EXPECT_EQ(choosePlan(g, 10).strategy, Strategy::CueBankCombination);
 }
 
 TEST(ChoosePlan, WithNoPotTheLowLevelsHaveNoCushionFallbackAndLevelThreeHasOne) {
@@ -79,5 +82,5 @@ TEST(ChoosePlan, WithNoPotTheLowLevelsHaveNoCushionFallbackAndLevelThreeHasOne) 
     EXPECT_EQ(plan.planX, 1300);
     EXPECT_EQ(plan.planY, 1150);
     EXPECT_NEAR(plan.cueRun, 2051.8284, 0.01);
-    EXPECT_EQ(three.controls.zephsMessage, "I can't Poket.");
+    EXPECT_EQ(plan.strategy, Strategy::CushionHit);
 }

@@ -2,6 +2,7 @@
 #include "cpu/cue_ball_placement.h"
 #include "cpu/direct_shots.h"
 #include "cpu/fallback_shots.h"
+#include "cpu/plan_remarks.h"
 #include "support/recording_screen.h"
 #include "support/table_setup.h"
 
@@ -25,18 +26,19 @@ void expectPlan(const ShotPlan& plan, float x, float y, double cutDegrees, float
     EXPECT_NEAR(plan.ballRun, ballRun, 0.05);
 }
 
-template <typename Strategy> ShotPlan freshPlan(GameState& g, Strategy strategy) {
+template <typename Search> ShotPlan freshPlan(const GameState& g, Search search) {
     ShotPlan plan = startPlan(g);
-    strategy(g, plan);
+    search(g, plan);
     return plan;
 }
 
-// The remark a strategy leaves on a Japanese system, from a plan that has found nothing yet.
-template <typename Strategy> std::string japaneseRemarkOf(GameState g, Strategy strategy) {
-    g.isJapanese = true;
+// What zeph says of the plan that one search finds from scratch, in English or in Japanese.
+template <typename Search>
+std::string remarkAfter(const GameState& g, Search search, bool japanese = false) {
     ShotPlan plan = startPlan(g);
-    strategy(g, plan);
-    return g.controls.zephsMessage;
+    search(g, plan);
+    const Remark remark = remarkOf(plan);
+    return japanese ? remark.japanese : remark.english;
 }
 
 } // namespace
@@ -44,8 +46,9 @@ template <typename Strategy> std::string japaneseRemarkOf(GameState g, Strategy 
 TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     GameState g = workedTable();
     expectPlan(freshPlan(g, tryDirect), 1722.6042f, 636.6762f, 37.42, 1123.2f, 710.6f);
-    EXPECT_EQ(g.controls.zephsMessage, "Simple is best.");
-    EXPECT_EQ(japaneseRemarkOf(g, tryDirect), "素直が一番。");
+    EXPECT_EQ(freshPlan(g, tryDirect).strategy, Strategy::Direct);
+    EXPECT_EQ(remarkAfter(g, tryDirect), "Simple is best.");
+    EXPECT_EQ(remarkAfter(g, tryDirect, true), "素直が一番。");
 
     putBall(g.Balls, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
     const ShotPlan pocketSix = freshPlan(g, tryDirect);
@@ -53,29 +56,29 @@ TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
 
     ShotPlan equal = startPlan(g); // an equal cut never replaces
     equal.cutAngle = pocketSix.cutAngle;
-    g.controls.zephsMessage = "before";
     tryDirect(g, equal);
     EXPECT_FALSE(equal.found);
-    EXPECT_EQ(g.controls.zephsMessage, "before");
+    EXPECT_EQ(equal.strategy, Strategy::None);
 
     putBall(g.Balls, 2, 1200, 620); // across the roads to both ghost points that are left
     EXPECT_FALSE(freshPlan(g, tryDirect).found);
-    EXPECT_EQ(g.controls.zephsMessage, "before");
+    EXPECT_EQ(remarkAfter(g, tryDirect), "I can do nothing!");
 }
 
 TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysWhichKindOfShotWonLast) {
     GameState g = tableWithCueAt(550, 950);
     putBall(g.Balls, 1, 1450, 500);
-    freshPlan(g, tryDirectCombination);
-    EXPECT_EQ(g.controls.zephsMessage, "Easy for me.");
+    EXPECT_EQ(remarkAfter(g, tryDirectCombination), "Easy for me.");
 
     // Ball 4 stands before pocket 6: the plain pot at pocket 3 (67.7 degrees) comes first and the
     // combination replaces it.
     putBall(g.Balls, 4, 1900, 300);
-    expectPlan(freshPlan(g, tryDirectCombination), 1357.7248f, 538.5394f, 0.4296, 906.4873f,
-               1006.2306f);
-    EXPECT_EQ(g.controls.zephsMessage, "Combination Shot!");
-    EXPECT_EQ(japaneseRemarkOf(g, tryDirectCombination), "コンビネーションショット！");
+    const ShotPlan combination = freshPlan(g, tryDirectCombination);
+    expectPlan(combination, 1357.7248f, 538.5394f, 0.4296, 906.4873f, 1006.2306f);
+    EXPECT_EQ(combination.strategy, Strategy::DirectCombination);
+    EXPECT_TRUE(combination.roadHoldsBall);
+    EXPECT_EQ(remarkAfter(g, tryDirectCombination), "Combination Shot!");
+    EXPECT_EQ(remarkAfter(g, tryDirectCombination, true), "コンビネーションショット！");
     EXPECT_NEAR(freshPlan(g, tryDirect).planX, 1360.5573, 0.01); // tryDirect sees no second ball
 }
 
@@ -84,18 +87,19 @@ TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
     ShotPlan plan = freshPlan(g, tryDirect);
     tryObjectBank(g, plan);
     expectPlan(plan, 1702.4210f, 721.8712f, 18.9417, 1109.1370f, 2971.9521f);
-    EXPECT_EQ(g.pocketTable[8].x, 4700);
-    EXPECT_EQ(g.controls.zephsMessage, ".......");
-    EXPECT_EQ(japaneseRemarkOf(g, tryObjectBank), "的球のバンクだとはいるかな？");
+    EXPECT_EQ(plan.strategy, Strategy::ObjectBank);
+    EXPECT_EQ(g.pocketTable[8].x, 0) << "the images are zeph's own, not the table's";
+    EXPECT_EQ(remarkAfter(g, tryObjectBank), ".......");
+    EXPECT_EQ(remarkAfter(g, tryObjectBank, true), "的球のバンクだとはいるかな？");
 
     ShotPlan nearlyStraight = startPlan(g);
     nearlyStraight.cutAngle = 0.17f; // under 10 degrees no bank can beat it
     tryObjectBank(g, nearlyStraight);
     EXPECT_FALSE(nearlyStraight.found);
 
-    putBall(g.Balls, 2, 2190, 612);                           // on the target's road to the image
+    putBall(g.Balls, 2, 2190, 612);                                 // on the target's road to the image
     EXPECT_EQ(freshPlan(g, tryObjectBank).planX, plan.planX); // no second ball is worked in
-    EXPECT_EQ(japaneseRemarkOf(g, tryObjectBank), "これは無理かな～");
+    EXPECT_EQ(remarkAfter(g, tryObjectBank, true), "これは無理かな～");
 
     GameState edge = tableWithCueAt(600, 600);
     putBall(edge.Balls, 1, 1200, 100); // every ghost point for the images lies near the cushion
@@ -107,15 +111,15 @@ TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
     putBall(g.Balls, 1, 2000, 1000);
     // Pocket 2 by way of the right cushion.
     expectPlan(freshPlan(g, tryCueBank), 2350, 928.5712f, 1.2707, 2096.6113f, 813.9410f);
-    EXPECT_EQ(g.controls.zephsMessage, "Bank Shot.");
-    EXPECT_EQ(japaneseRemarkOf(g, tryCueBank), "バンクショット！");
+    EXPECT_EQ(remarkAfter(g, tryCueBank), "Bank Shot.");
+    EXPECT_EQ(remarkAfter(g, tryCueBank, true), "バンクショット！");
 
     EXPECT_NEAR(freshPlan(g, tryCueBankCombination).planY, 928.5712f, 0.01);
-    EXPECT_EQ(g.controls.zephsMessage, "Bank Shot!");
+    EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank Shot!");
     putBall(g.Balls, 3, 1600, 1080); // before pocket 2
-    EXPECT_TRUE(freshPlan(g, tryCueBankCombination).found);
-    EXPECT_EQ(g.controls.zephsMessage, "Bank & Conbination Shot!");
-    EXPECT_EQ(japaneseRemarkOf(g, tryCueBankCombination), "バンク＆コンビネーション！");
+    EXPECT_TRUE(freshPlan(g, tryCueBankCombination).roadHoldsBall);
+    EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank & Conbination Shot!");
+    EXPECT_EQ(remarkAfter(g, tryCueBankCombination, true), "バンク＆コンビネーション！");
 }
 
 TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
@@ -123,8 +127,8 @@ TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
     putBall(g.Balls, 1, 1800, 600);
     // Probe 1, the centre, is blocked by the target; probe 3 against pocket 3 beats probe 2.
     expectPlan(freshPlan(g, tryJustHit), 1769.7165f, 506.7959f, 49.5560, 1173.4268f, 777.8175f);
-    EXPECT_EQ(g.controls.zephsMessage, "Difficalt !");
-    EXPECT_EQ(japaneseRemarkOf(g, tryJustHit), "当てるぐらいしかできませんね");
+    EXPECT_EQ(remarkAfter(g, tryJustHit), "Difficalt !");
+    EXPECT_EQ(remarkAfter(g, tryJustHit, true), "当てるぐらいしかできませんね");
 
     ShotPlan found = startPlan(g);
     found.found = true;
@@ -139,8 +143,8 @@ TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
     // is not below it, yet its runs are the ones written last.
     const ShotPlan plan = freshPlan(g, tryCushionHit);
     expectPlan(plan, 1300, 1150, 180, 2202.2716f, 1101.1358f);
-    EXPECT_EQ(g.controls.zephsMessage, "I can't Poket.");
-    EXPECT_EQ(japaneseRemarkOf(g, tryCushionHit), "とりあえず当てていきましょうかね。");
+    EXPECT_EQ(remarkAfter(g, tryCushionHit), "I can't Poket.");
+    EXPECT_EQ(remarkAfter(g, tryCushionHit, true), "とりあえず当てていきましょうかね。");
 
     GameState mouth = tableWithCueAt(600, 600);
     putBall(mouth.Balls, 1, 1700, 600); // top and bottom bank points at x = 1150 exactly

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <random>
 
 using namespace morvane;
@@ -85,26 +86,27 @@ TEST_F(ProfileFile, CopesWithRandomBytesAndOneVeryLongLine) {
     EXPECT_EQ(GetPrivateProfileStringA("S", "other", "", file()), "x");
 }
 
-TEST_F(ProfileFile, AnInterruptedWriteLeavesTheOldFileWhole) {
+TEST_F(ProfileFile, AWriteThatFailsAtAnyStepLeavesTheOldFileWholeAndSaysSoOnce) {
     const std::string old = "[S]\nkey= 1\nname=Ann\n";
-    writeFile("TEST.INI", old);
-    std::string seenTemp;
-    setBeforeRenameHook([&](const std::string& tempPath) {
-        seenTemp = tempPath;
-        return false;
-    });
-    ::testing::internal::CaptureStderr();
-    const bool written = WritePrivateProfileStringA("S", "key", " 2", file());
-    const std::string warning = ::testing::internal::GetCapturedStderr();
-    setBeforeRenameHook(nullptr);
+    for (SaveStep failing :
+         {SaveStep::CreateTemporary, SaveStep::Write, SaveStep::FlushFile, SaveStep::Rename}) {
+        writeFile("TEST.INI", old);
+        setSaveStepHook([&](SaveStep step) { return step == failing ? ENOSPC : 0; });
+        ::testing::internal::CaptureStderr();
+        const bool written = WritePrivateProfileStringA("S", "key", " 2", file());
+        const std::string warning = ::testing::internal::GetCapturedStderr();
+        setSaveStepHook(nullptr);
 
-    EXPECT_FALSE(written);
-    EXPECT_EQ(readFile("TEST.INI"), old);
-    EXPECT_EQ(seenTemp.rfind(home_, 0), 0u) << "the temporary file lies beside the file";
-    EXPECT_EQ(folderEntries(), std::vector<std::string>{"TEST.INI"}) << "and is gone";
-    EXPECT_NE(warning.find("TEST.INI"), std::string::npos);
-    EXPECT_EQ(std::count(warning.begin(), warning.end(), '\n'), 1);
-    EXPECT_TRUE(WritePrivateProfileStringA("S", "key", " 2", file()));
+        EXPECT_FALSE(written);
+        EXPECT_EQ(readFile("TEST.INI"), old);
+        EXPECT_EQ(folderEntries(), std::vector<std::string>{"TEST.INI"}) << "no temporary file";
+        EXPECT_EQ(warning, "morvane: could not save " + file() +
+                               " (No space left on device); the change is lost\n");
+    }
+    setSaveStepHook([](SaveStep step) { return step == SaveStep::FlushFolder ? EIO : 0; });
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "key", " 2", file()))
+        << "the new file is in place before the folder is flushed";
+    setSaveStepHook(nullptr);
     EXPECT_EQ(readInt("key"), 2);
 }
 

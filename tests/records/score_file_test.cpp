@@ -1,8 +1,12 @@
 #include "game/text.h"
+#include "records/atomic_file.h"
 #include "records/score_file.h"
 #include "support/temp_home.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
 
 using namespace morvane;
 
@@ -141,6 +145,51 @@ TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKey) {
     writeFile("MVSCORE.INI", "[ZEPH]\nLV=99\n");
     loadZephLevel(g);
     EXPECT_EQ(g.zephLevel, 11);
+}
+
+TEST_F(ScoreFile, NamesOfAnyBytesLoadAsTextOfTwentyCharacters) {
+    writeFile("MVSCORE.INI", "[SOLO]\nName01=\x8B\xCA\x93\xCB\x82\xAB\nName02=\xFF\xFE\n"
+                             "[VSCPU]\nName01=Ann\xE9\n");
+    GameState g;
+    loadSoloRecord(g);
+    loadVsCpuRecord(g);
+    EXPECT_EQ(g.soloRecords[1].Name, "玉突き" + std::string(17, ' ')) << "Shift-JIS";
+    EXPECT_EQ(g.soloRecords[2].Name, "\uFFFD\uFFFD" + std::string(18, ' '));
+    EXPECT_EQ(g.vsCpuRecords[1].Name, "Ann\uFFFD" + std::string(16, ' '));
+    saveSoloRecord(g);
+    const std::vector<std::string> saved = lines("MVSCORE.INI");
+    EXPECT_NE(std::ranges::find(saved, "Name01=玉突き" + std::string(17, ' ')), saved.end())
+        << "saved as UTF-8";
+}
+
+TEST_F(ScoreFile, EachSaveWritesTheFileOnceAndIsCountedWithItsOutcome) {
+    writeFile("MVSCORE.INI", "; kept\r\n[ZEPH]\r\nLV= 3\r\n");
+    GameState g;
+    int writes = 0;
+    setSaveStepHook([&](SaveStep step) {
+        writes += step == SaveStep::CreateTemporary;
+        return 0;
+    });
+    EXPECT_TRUE(saveSoloRecord(g));
+    EXPECT_TRUE(saveVsCpuRecord(g));
+    g.zephLevel = 4;
+    EXPECT_TRUE(saveZephLevel(g));
+    EXPECT_EQ(writes, 3) << "one write a save, not one a key";
+    const std::string text = readFile("MVSCORE.INI");
+    EXPECT_EQ(std::ranges::count(text, '\n'), 4 + 61 + 61) << "PG added to the three lines";
+    EXPECT_EQ(std::ranges::count(text, '\r'), 4 + 61 + 61) << "every line ends as the file's did";
+
+    setSaveStepHook([](SaveStep step) { return step == SaveStep::Rename ? EROFS : 0; });
+    g.soloRecords[1].Shots = 9;
+    ::testing::internal::CaptureStderr();
+    EXPECT_FALSE(saveSoloRecord(g));
+    const std::string said = ::testing::internal::GetCapturedStderr();
+    setSaveStepHook(nullptr);
+    EXPECT_EQ(said, "morvane: could not save " + path("MVSCORE.INI") +
+                        " (Read-only file system); the change is lost\n")
+        << "one line for the whole table";
+    EXPECT_EQ(readFile("MVSCORE.INI"), text);
+    EXPECT_EQ(std::tie(g.scoreFileSaves, g.failedScoreFileSaves), std::tuple(4, 1));
 }
 
 TEST(ScoreValues, CountBallsAndWinRate) {

@@ -17,6 +17,18 @@ class Modes : public RulesTest {
         backToMenu(g);
         screen.onChangeVsMode = [] {}; // OK as it stands: the mode stays versus
     }
+
+    // The cue ball straight at the left cushion and back along its own road: it touches nothing.
+    void missEverything() {
+        setTable(g, {{0, 600, 600}, {1, 2000, 1000}, {9, 1200, 300}});
+        shootToRest(100, 600, 35);
+    }
+
+    // Ball 1 dead on into the top right corner.
+    void potBallOne() {
+        setTable(g, {{0, 1850, 650}, {1, 2150, 950}, {9, 1200, 300}});
+        shootToRest(2150, 950);
+    }
 };
 
 TEST_F(Modes, SoloPlayHidesTheMenuAndShowsAllThreeLabels) {
@@ -98,6 +110,37 @@ TEST_F(Modes, AClickOnTheTableDoesNothingInSoloPlay) {
     picPool_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeSolo);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1));
+}
+
+TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnew) {
+    startDemo(g);
+    g.breakPending = false;
+    for (int shot = 1; shot <= 29; ++shot)
+        missEverything();
+    potBallOne();
+    ASSERT_FALSE(g.Balls[1].onTable);
+    for (int shot = 1; shot <= 29; ++shot)
+        missEverything();
+    EXPECT_FALSE(g.breakPending);
+    EXPECT_EQ(g.shotCount, 59);
+
+    missEverything();
+    EXPECT_TRUE(g.breakPending) << "racked anew";
+    EXPECT_EQ(g.shotCount, 0);
+    EXPECT_TRUE(g.Balls[5].onTable);
+    EXPECT_EQ(g.gameMode, kModeDemo);
+    EXPECT_TRUE(isTimerEnabled(g, kTimCom)) << "zeph breaks the new rack";
+}
+
+TEST_F(Modes, AMatchKeepsTheRulesHoweverLongNothingFalls) {
+    g.gameMode = kModeVersus;
+    g.versusCpu = false;
+    g.breakPending = false;
+    for (int shot = 1; shot <= 40; ++shot)
+        missEverything();
+    EXPECT_FALSE(g.breakPending);
+    EXPECT_EQ(g.shotCount, 40);
+    EXPECT_EQ(g.foulCount, 40);
 }
 
 TEST_F(Modes, StartFromTheMenuKeepsTheMenuModeSoTheDemoCountGoesOn) {

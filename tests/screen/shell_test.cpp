@@ -136,6 +136,13 @@ TEST_F(ShellTest, TheWordPicturesLightUnderTheMouseUntilItCrossesTheMenu) {
     EXPECT_EQ(kModeMenu, g.gameMode);
 }
 
+TEST_F(ShellTest, TheWordPicturesLieAboveTheCreditLinesThatCrossThem) {
+    // The credit lines run across the lower part of Exit: a click there is a click on Exit.
+    for (QPoint inExit : {QPoint(491, 331), QPoint(491, 350), QPoint(470, 362)})
+        EXPECT_EQ(menu().picture(kPicExit, 0), menu().childAt(inExit)) << inExit.y();
+    EXPECT_EQ(menu().lblCopyright(0), menu().childAt(QPoint(270, 340)));
+}
+
 TEST_F(ShellTest, TheSwitchesTurnOffAndOnAndWriteTheirKeys) {
     click(menu().switchPicture(kSwitchSound, 0));
     EXPECT_EQ(0, g.soundOn);

@@ -3,9 +3,9 @@
 // lands stay those of scale 1. (The window's input tests run in this program too.)
 #include "screen/screen_fixture.h"
 
+#include "game/racking.h"
 #include "picture_names.h"
 #include "rules/modes.h"
-#include "table/rack.h"
 
 #include <QTest>
 

@@ -48,10 +48,15 @@ TEST_F(GameCommands, ThinkWithBallInHandPlacesTheCueBallAndWithABreakDoesNotThin
     EXPECT_NE(r["cue"], json::array({600.0, 600.0}));
     EXPECT_LT(r["plan"]["cutAngle"].get<double>(), 1 * kDegree) << "a straight shot from behind";
 
-    run = runTool({"think", "--level", "11"}, twoBalls(1800, 700, R"("breakPending": true)"));
+    run = runTool({"think", "--level", "11"}, R"({"breakPending": true})");
     r = json::parse(run.out);
     EXPECT_TRUE(r["plan"].is_null());
     EXPECT_EQ(r["remark"], "My first shot.");
+    EXPECT_EQ(r["strategy"], "");
+    // A break is played from a rack only.
+    run = runTool({"think", "--level", "11"}, twoBalls(1800, 700, R"("breakPending": true)"));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("balls: a break needs"), std::string::npos) << run.err;
 }
 
 TEST_F(GameCommands, SeededDemoGamesGiveALineEachAndASummaryThatAddsUp) {

@@ -1,9 +1,11 @@
 #include "command_run.h"
+#include "table/rack.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <sstream>
 
 using morvane::sim::runCommand;
@@ -48,6 +50,28 @@ TEST(ShotCommand, FullPowerBreakRunsToRestAndReportsTheShot) {
     }
 }
 
+TEST(ShotCommand, ABreakRunsFromWhereverTheCueBallStandsAlongTheSwingsArc) {
+    // The rack with the cue ball moved to the far corner, the aim at the end of the swing.
+    morvane::BallArray rack;
+    morvane::rackBalls(rack);
+    json balls = json::array();
+    for (const morvane::BallType& b : rack)
+        balls.push_back({{"x", b.x}, {"y", b.y}});
+    balls[0] = {{"x", 60}, {"y", 1140}};
+    const double side = 3.1415926 / 5.6;
+    const json input = {{"break", true},
+                        {"balls", balls},
+                        {"aim", {1800 - 100 * std::cos(side), 600 - 100 * std::sin(side)}},
+                        {"power", 35}};
+    const json r = shotResult(input.dump());
+    EXPECT_EQ(r["firstHitBall"], 1);
+    EXPECT_TRUE(r["stopped"].get<bool>());
+    EXPECT_EQ(r["events"][0]["partner"], 1) << "the cue ball reaches the rack";
+    EXPECT_EQ(shotResult(R"({"break": true})"),
+              shotResult(R"({"break": true, "aim": [1700, 600]})"))
+        << "without an aim the break goes straight at the rack";
+}
+
 TEST(ShotCommand, SameSeedSameShotAndTheSeedMatters) {
     const std::string input = R"({"break": true, "aim": [1700, 600]})";
     EXPECT_EQ(shotResult(input), shotResult(input));
@@ -79,6 +103,25 @@ TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
         {twoBalls(2351, 600, R"("aim": [0, 0])"), "balls[1]"},
         {twoBalls(1200, 49, R"("aim": [0, 0])"), "balls[1]"},
         {twoBalls(1200, 600, R"("power": 50)"), "aim"},
+        {std::string(R"({"power": 50})") + '\0' + "junk", "input"},
+        {R"({"aim": [1e308, 1e308]})", "aim"},
+        {R"({"aim": [1700, 1e39]})", "aim"},
+        {R"({"power": 1e400})", "input"},                  // beyond a double: no JSON number
+        {R"({"break": true, "aim": [0, 600]})", "aim"},    // away from the rack
+        {R"({"break": true, "aim": [1710, 600]})", "aim"}, // where the marker stands, not the aim
+        {R"({"break": true, "aim": [1790, 600]})", "aim"}, // on the apex ball
+        {twoBalls(1800, 700, R"("aim": [1700, 600], "break": true)"), "balls"},
+        {twoBalls(650, 640, R"("aim": [0, 0])"), "balls[1]"}, // 64 from the cue ball
+        {R"({"aim": [0, 0], "balls": [{"x": 600, "y": 600, "onTable": false}, {"x": 900, "y": 600},
+            {"x": 900, "y": 300}, {"x": 900, "y": 900}, {"x": 1200, "y": 300}, {"x": 1200, "y": 900},
+            {"x": 1500, "y": 300}, {"x": 1500, "y": 900}, {"x": 1800, "y": 300},
+            {"x": 1800, "y": 900}]})",
+         "balls[0]"},
+        {R"({"aim": [0, 0], "balls": [{"x": 600, "y": 600}, {"x": 900, "y": 600, "onTable": false},
+            {"x": -151, "y": 300, "onTable": false}, {"x": 900, "y": 900}, {"x": 1200, "y": 300},
+            {"x": 1200, "y": 900}, {"x": 1500, "y": 300}, {"x": 1500, "y": 900},
+            {"x": 1800, "y": 300}, {"x": 1800, "y": 900}]})",
+         "balls[2]"},
     };
     for (const auto& [input, field] : cases) {
         const CommandRun run = runShot(input);

@@ -7,6 +7,7 @@
 #include <SDL_mixer.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <fstream>
@@ -108,7 +109,7 @@ TEST_F(Rendering, AHardClickComesOutAtTheLevelOfItsFile) {
 
 TEST_F(Rendering, TheMenuTuneSoundsThroughTheGeneralMidiSoundfont) {
     constexpr size_t kSecondsToHear = 3;
-    const size_t bytesToHear = kSecondsToHear * 44100 * kBytesPerFrame;
+    const size_t bytesToHear = kSecondsToHear * kMixRate * kBytesPerFrame;
     std::ostringstream warnings;
     size_t startedAt = 0;
     {
@@ -116,6 +117,8 @@ TEST_F(Rendering, TheMenuTuneSoundsThroughTheGeneralMidiSoundfont) {
         ASSERT_TRUE(sound.hasDevice()) << warnings.str();
         expectSixteenBitStereo();
         sound.sendMusic("open menu.mid");
+        // The mixer runs at full speed: let it have the soundfont and the tune before listening.
+        sound.waitForMusicLoads();
         startedAt = bytesWritten();
         sound.sendMusic("play menu.mid");
         ASSERT_TRUE(waitForMixer([&] { return bytesWritten() >= startedAt + bytesToHear; }));
@@ -125,6 +128,57 @@ TEST_F(Rendering, TheMenuTuneSoundsThroughTheGeneralMidiSoundfont) {
     EXPECT_GT(heard.peak, 0.05);
     EXPECT_GT(heard.rms, 0.005);
     EXPECT_EQ(warnings.str(), "");
+}
+
+// The most a tune reaches, played whole through the mixer, and the most an effect file does.
+TEST_F(Rendering, EveryTuneLeavesTheLoudestEffectRoomBelowFullScale) {
+    constexpr double kTuneSeconds = 30.5; // the music timer closes each tune then
+    double loudestEffect = 0;
+    for (const char* effect :
+         {kSoundSoftClick, kSoundMediumClick, kSoundHardClick, kSoundDrop, kSoundCushion})
+        loudestEffect = std::max(loudestEffect, levelOfWav(runtimeFolder() / effect).peak);
+    ASSERT_GT(loudestEffect, 0.3);
+    for (const char* tune : {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"}) {
+        size_t startedAt = 0;
+        {
+            SdlSound sound(runtimeFolder());
+            ASSERT_TRUE(sound.hasDevice());
+            sound.sendMusic(std::string("open ") + tune);
+            sound.waitForMusicLoads();
+            startedAt = bytesWritten();
+            sound.sendMusic(std::string("play ") + tune);
+            const auto bytes = size_t(kTuneSeconds * kMixRate) * kBytesPerFrame;
+            ASSERT_TRUE(waitForMixer([&] { return bytesWritten() >= startedAt + bytes; }));
+        }
+        const Level music = levelOf(samplesOf(output, startedAt));
+        EXPECT_GT(music.peak, 0.2) << tune << " sounds";
+        EXPECT_LT(music.peak + loudestEffect, 0.99) << tune << " with the loudest effect clips";
+    }
+}
+
+TEST_F(Rendering, TheLoudestEffectsOverTheMusicNeverReachFullScale) {
+    constexpr int kRounds = 12;
+    size_t startedAt = 0;
+    {
+        SdlSound sound(runtimeFolder());
+        ASSERT_TRUE(sound.hasDevice());
+        sound.sendMusic("open game2.mid");
+        sound.waitForMusicLoads();
+        startedAt = bytesWritten();
+        sound.sendMusic("play game2.mid");
+        for (int round = 0; round < kRounds; ++round) {
+            for (const char* effect : {kSoundHardClick, kSoundDrop, kSoundCushion}) {
+                sound.playEffect(effect, kSoundCutOff);
+                ASSERT_TRUE(waitForMixer([&] { return sound.effectPlaying().empty(); }));
+            }
+        }
+    }
+    const std::vector<int16_t> mix = samplesOf(output, startedAt);
+    const auto atFullScale = std::count_if(
+        mix.begin(), mix.end(), [](int16_t sample) { return sample == 32767 || sample == -32768; });
+    EXPECT_EQ(atFullScale, 0);
+    EXPECT_GT(levelOf(mix).peak, levelOfWav(runtimeFolder() / kSoundHardClick).peak)
+        << "the effects sounded over the music";
 }
 
 } // namespace

@@ -112,6 +112,16 @@ TEST_F(FormLoadTest, StoredSettingsRecordsAndLevelAreReadAndThePictureFilesFollo
     EXPECT_TRUE(platform.messages().empty()) << "the picture switch is silent at start-up";
 }
 
+TEST_F(FormLoadTest, AStartClearsWhatSavesCutOffByAKillLeftBehind) {
+    writeFile(".MORVANE.INI.Ab12Cd", "[MORVANE]\nBG");
+    writeFile(".MVSCORE.INI.Zz00Yy", "");
+    writeFile("MVSCORE.INI.bak", "[ZEPH]\nLV=3\n");
+    ASSERT_TRUE(Form_Load(g, "", platform));
+    std::vector<std::string> left = folderEntries();
+    std::ranges::sort(left);
+    EXPECT_EQ((std::vector<std::string>{"MORVANE.INI", "MVSCORE.INI.bak"}), left);
+}
+
 TEST_F(FormLoadTest, ASecondCopyIsRefusedInItsLanguageAndTouchesNoFile) {
     const std::string lockPath = home_ + "../" + "morvane-form-load-test.lock";
     SingleInstanceLock first(lockPath);

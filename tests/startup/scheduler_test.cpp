@@ -1,4 +1,5 @@
 // The scheduler of the six timers in virtual time.
+#include "game/shot_input.h"
 #include "game/timers.h"
 #include "startup/scheduler.h"
 
@@ -60,6 +61,77 @@ TEST_F(Scheduler, AdvanceUntilStopsAtTheFirstTickThatMeetsTheCondition) {
     EXPECT_TRUE(advanceUntil(g, 60000, [&] { return g.gameSeconds == 3; }));
     EXPECT_EQ(g.nowMs, 3000);
     EXPECT_FALSE(advanceUntil(g, 3500, [&] { return g.gameSeconds == 9; }));
+}
+
+// A solo game waiting for its break, with the menu over the table or not, from time 0; the
+// idle count ticks as it does in every mode.
+struct Swing {
+    GameState g;
+    SeededRandom random{11};
+    explicit Swing(bool underMenu) {
+        g.ports.random = &random;
+        g.gameMode = kModeSolo;
+        initTimers(g);
+        setTimerEnabled(g, kTimer2, true);
+        setTimerEnabled(g, kTimDemo, true);
+        g.controls.menuVisible = underMenu;
+    }
+    // The menu goes at `atMs` and the swing is left to run until `untilMs`.
+    void showTableAt(int64_t atMs, int64_t untilMs) {
+        advanceVirtualTime(g, atMs);
+        g.controls.menuVisible = false;
+        advanceVirtualTime(g, untilMs);
+    }
+};
+
+TEST(BreakSwingRest, ShownTableSwingsEveryTenMilliseconds) {
+    Swing shown(false);
+    advanceVirtualTime(shown.g, 1000);
+    float phase = 0;
+    for (int tick = 0; tick < 100; ++tick)
+        phase = float(phase + 3.1415926 / 20);
+    EXPECT_EQ(shown.g.swingPhase, phase);
+    EXPECT_EQ(nextDueTime(shown.g), 1010);
+}
+
+TEST(BreakSwingRest, UnderTheMenuOrTheRecordScreenTheSwingNeitherFiresNorWakesAnyone) {
+    for (bool menu : {true, false}) {
+        Swing rest(menu);
+        rest.g.controls.scoreVisible = !menu;
+        const float aimX = rest.g.aimX;
+        EXPECT_EQ(nextDueTime(rest.g), 1000); // the idle count is the only timer due
+        advanceVirtualTime(rest.g, 5000);
+        EXPECT_EQ(rest.g.swingPhase, 0);
+        EXPECT_EQ(rest.g.aimX, aimX);
+        EXPECT_TRUE(isTimerEnabled(rest.g, kTimer2)); // it rests, it isn't off
+    }
+}
+
+TEST(BreakSwingRest, BackOnTheTableTheSwingGoesOnAsIfItHadSwungAllAlong) {
+    Swing rested(true);
+    Swing swung(false);
+    rested.showTableAt(30007, 30500);
+    swung.showTableAt(30007, 30500);
+    EXPECT_EQ(rested.g.swingPhase, swung.g.swingPhase); // to the bit, rounding step by step
+    EXPECT_EQ(nextDueTime(rested.g), 30510);
+    EXPECT_EQ(rested.g.timers[kTimer2].dueAt, swung.g.timers[kTimer2].dueAt);
+}
+
+TEST(BreakSwingRest, HowLongTheMenuStoodDecidesWhereTheBreakSwingsFrom) {
+    Swing shorter(true);
+    Swing longer(true);
+    shorter.showTableAt(30000, 30000);
+    longer.showTableAt(30010, 30010);
+    EXPECT_NE(shorter.g.swingPhase, longer.g.swingPhase);
+    EXPECT_NE(shorter.g.aimY, longer.g.aimY);
+    EXPECT_NE(shorter.g.swingPhase, 0);
+}
+
+TEST(BreakSwingRest, APhaseTooLargeToMoveStopsTheCarryingOn) {
+    GameState g;
+    g.swingPhase = 1 << 23; // a step rounds to nothing at this size
+    carrySwingOn(g, int64_t(1) << 40);
+    EXPECT_EQ(g.swingPhase, float(1 << 23));
 }
 
 } // namespace

@@ -1,0 +1,98 @@
+// Saves killed at each of their steps, in a child process that dies there, and the clearing up
+// at the next start.
+#include "records/atomic_file.h"
+#include "support/temp_home.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace morvane;
+
+namespace {
+
+class AtomicFile : public morvane::testing::TempHomeTest {
+  protected:
+    std::string file() const { return path("MVSCORE.INI"); }
+    std::vector<std::string> sortedEntries() const {
+        std::vector<std::string> names = folderEntries();
+        std::ranges::sort(names);
+        return names;
+    }
+    void removeLeftovers() const { removeUnfinishedSaves(home_, {"MVSCORE.INI", "MORVANE.INI"}); }
+};
+
+TEST_F(AtomicFile, AKillAtAnyStepLeavesTheOldFileOrTheNewWholeAndTheNextStartClearsUp) {
+    const std::string oldText = "[SOLO]\nName01=Good Record\n";
+    const std::string newText = "[SOLO]\nName01=Another\nName02=Good Record\n";
+    for (SaveStep dying : {SaveStep::CreateTemporary, SaveStep::Write, SaveStep::FlushFile,
+                           SaveStep::Rename, SaveStep::FlushFolder}) {
+        writeFile("MVSCORE.INI", oldText);
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            setSaveStepHook([&](SaveStep step) {
+                if (step == dying)
+                    ::raise(SIGKILL);
+                return 0;
+            });
+            writeFileAtomically(file(), newText);
+            ::_exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+
+        const bool renamed = dying == SaveStep::FlushFolder;
+        EXPECT_EQ(readFile("MVSCORE.INI"), renamed ? newText : oldText) << int(dying);
+        const bool leftBehind = dying != SaveStep::CreateTemporary && !renamed;
+        EXPECT_EQ(folderEntries().size(), leftBehind ? 2u : 1u) << int(dying);
+        removeLeftovers();
+        EXPECT_EQ(folderEntries(), std::vector<std::string>{"MVSCORE.INI"}) << int(dying);
+    }
+}
+
+TEST_F(AtomicFile, OnlyTheGamesOwnTemporaryNamesAreClearedAndNotOneThatASaveHolds) {
+    const std::vector<std::string> kept = {".MVSCORE.INI.abc",    ".MVSCORE.INI.abcdefg",
+                                           ".MVSCORE.INI.ab-123", ".OTHER.INI.a1B2c3",
+                                           "MVSCORE.INI",         "MVSCORE.INI.a1B2c3"};
+    for (const std::string& name : kept)
+        writeFile(name, "x");
+    writeFile(".MVSCORE.INI.a1B2c3", "half a sa");
+    writeFile(".MORVANE.INI.ZZ9zz9", "");
+    std::filesystem::create_directory(path(".MVSCORE.INI.Dir123"));
+    writeFile("elsewhere", "not ours");
+    std::filesystem::create_symlink(path("elsewhere"), path(".MVSCORE.INI.Link12"));
+    writeFile(".MVSCORE.INI.Held12", "a save under way");
+    const int held = ::open(path(".MVSCORE.INI.Held12").c_str(), O_RDONLY);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+
+    removeLeftovers();
+    ::close(held);
+    std::vector<std::string> expected = kept;
+    expected.insert(expected.end(), {".MVSCORE.INI.Dir123", ".MVSCORE.INI.Link12",
+                                     ".MVSCORE.INI.Held12", "elsewhere"});
+    std::ranges::sort(expected);
+    EXPECT_EQ(sortedEntries(), expected);
+}
+
+TEST_F(AtomicFile, ANewFileGetsTheModeTheUmaskLeavesAndAReplacedOneKeepsItsOwn) {
+    const mode_t mask = ::umask(022);
+    ASSERT_TRUE(writeFileAtomically(file(), "a\n"));
+    struct stat info {};
+    ASSERT_EQ(::stat(file().c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777, 0644u);
+    ASSERT_EQ(::chmod(file().c_str(), 0600), 0);
+    ASSERT_TRUE(writeFileAtomically(file(), "b\n"));
+    ASSERT_EQ(::stat(file().c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777, 0600u);
+    ::umask(mask);
+}
+
+} // namespace

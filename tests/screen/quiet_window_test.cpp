@@ -1,0 +1,133 @@
+// The window does no work while nothing it shows changes: the timer driver sleeps until the next
+// timer is due, and the table view repaints only what moved by a pixel or more.
+#include "screen_fixture.h"
+
+#include "game/timers.h"
+#include "screen/timer_driver.h"
+
+#include <QAbstractEventDispatcher>
+#include <QEventLoop>
+
+namespace morvane::testing {
+namespace {
+
+// Counts the paint events a widget gets.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    int paints = 0;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return false;
+    }
+};
+
+class QuietWindowTest : public ScreenTest {
+  protected:
+    // Runs `handler` as the event loop would run a click's, then the loop until it is about to
+    // wait, the driver having set its wake first, and gives how far off that wake is.
+    int wakeWhenIdle(
+        TimerDriver& driver, const std::function<void()>& handler = [] {}) {
+        QEventLoop loop;
+        bool handled = false;
+        int wake = -2;
+        const auto idle = QObject::connect(QAbstractEventDispatcher::instance(),
+                                           &QAbstractEventDispatcher::aboutToBlock, &loop, [&] {
+                                               if (!handled)
+                                                   return;
+                                               wake = driver.msUntilWake();
+                                               loop.quit();
+                                           });
+        QTimer::singleShot(0, &loop, [&] {
+            handler();
+            handled = true;
+        });
+        loop.exec();
+        QObject::disconnect(idle);
+        return wake;
+    }
+
+    void settle() {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+    }
+};
+
+TEST_F(QuietWindowTest, WithNoTimerOnTheDriverSleepsUntilAnEventComes) {
+    TimerDriver driver(g, nullptr, nullptr);
+    driver.start();
+    EXPECT_EQ(wakeWhenIdle(driver), -1);
+}
+
+TEST_F(QuietWindowTest, TheDriverWakesWhenTheNextTimerIsDueAndNotBefore) {
+    setTimerEnabled(g, kTimDemo, true);
+    TimerDriver driver(g, nullptr, nullptr);
+    driver.start();
+    // One tick a second, and nothing between: not a look every few milliseconds.
+    const int wake = wakeWhenIdle(driver);
+    EXPECT_GT(wake, 900);
+    EXPECT_LE(wake, 1000);
+}
+
+TEST_F(QuietWindowTest, ATimerAHandlerSwitchesOnIsSeenBeforeTheLoopWaits) {
+    setTimerEnabled(g, kTimDemo, true);
+    TimerDriver driver(g, nullptr, nullptr);
+    driver.start();
+    wakeWhenIdle(driver);
+    // A click's handler racks a game: the break swing starts at once, not a second later.
+    EXPECT_LE(wakeWhenIdle(driver, [&] { setTimerEnabled(g, kTimer2, true); }), 10);
+}
+
+TEST_F(QuietWindowTest, UnderTheMenuTheRestingSwingWakesNobody) {
+    setTimerEnabled(g, kTimDemo, true);
+    setTimerEnabled(g, kTimer2, true);
+    g.controls.menuVisible = true;
+    TimerDriver driver(g, nullptr, nullptr);
+    driver.start();
+    EXPECT_GT(wakeWhenIdle(driver), 900);
+    // Solo Play takes the menu away: the swing goes on at once.
+    EXPECT_LE(wakeWhenIdle(driver, [&] { g.controls.menuVisible = false; }), 10);
+}
+
+TEST_F(QuietWindowTest, NothingChangedRepaintsNothing) {
+    window->show();
+    g.controls.target = {300, 100, true};
+    window->syncControlsFromState();
+    settle();
+    PaintCounter view(window->picPool());
+    PaintCounter whole(window.get());
+    window->syncControlsFromState(); // as after a tick of the idle count
+    settle();
+    EXPECT_EQ(view.paints, 0);
+    EXPECT_EQ(whole.paints, 0);
+    // The swing moves the marker by less than half a pixel: nothing shows, nothing paints.
+    g.controls.target.top = 100.4f;
+    window->syncControlsFromState();
+    settle();
+    EXPECT_EQ(view.paints, 0);
+    // A pixel or more shows, and the view alone paints it.
+    g.controls.target.top = 101.6f;
+    window->syncControlsFromState();
+    settle();
+    EXPECT_EQ(view.paints, 1);
+    EXPECT_EQ(whole.paints, 0);
+    window->hide();
+}
+
+TEST_F(QuietWindowTest, AMarkerMovedByAPixelIsDrawnThere) {
+    screen->drawTable();
+    g.controls.target = {300, 100, true};
+    window->syncControlsFromState();
+    g.controls.target = {300.4f, 102.6f, true}; // drawn from (300, 103)
+    window->syncControlsFromState();
+    const QImage shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(qRgb(0, 255, 255), shown.pixel(300, 113) | 0xff000000);
+    EXPECT_EQ(kCloth, shown.pixel(310, 113) | 0xff000000);
+    EXPECT_EQ(kCloth, shown.pixel(300, 101) | 0xff000000);
+}
+
+} // namespace
+} // namespace morvane::testing

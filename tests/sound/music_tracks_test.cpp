@@ -1,0 +1,152 @@
+// The tunes read on the loading thread: the window's commands never wait for a file, a tune
+// asked to play before it is read starts once it is, a close always wins over a read still
+// under way, a closed tune is let go, and a broken file is reported once and stays silent.
+#include "sound/mixer_device.h"
+#include "sound/music_tracks.h"
+#include "sound/tune_file.h"
+#include "sound_setup.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <future>
+#include <sstream>
+#include <utility>
+
+using namespace morvane;
+using namespace morvane::testing;
+
+namespace {
+
+class Tunes : public ::testing::Test {
+  protected:
+    ScopedEnv driver{"SDL_AUDIODRIVER", "dummy"};
+    std::ostringstream said;
+    WarnOnce warnings{said};
+    MixerDevice device{warnings, kMixBufferSamples};
+    LoadingWorker loader;
+    std::optional<MusicTracks> tracks;
+    std::promise<void> gate;
+    bool released = false;
+
+    void SetUp() override {
+        ASSERT_TRUE(device.isOpen()) << said.str();
+        tracks.emplace(runtimeFolder(), warnings, loader, device.rate());
+    }
+    void TearDown() override {
+        release(); // whatever a failed check left held
+        tracks.reset();
+    }
+
+    // Keeps the loading thread busy until `release`, as a slow disk would.
+    void holdTheLoader() {
+        loader.post([future = gate.get_future().share()] { future.wait(); });
+    }
+    void release() {
+        if (!std::exchange(released, true))
+            gate.set_value();
+    }
+};
+
+TEST_F(Tunes, ATunePlayedBeforeItIsReadStartsOnceItIs) {
+    holdTheLoader();
+    tracks->command("open menu.mid");
+    tracks->command("play menu.mid");
+    EXPECT_TRUE(tracks->isOpen("menu.mid")) << "the commands returned while the file waits";
+    EXPECT_EQ(tracks->playing(), "menu.mid") << "asked to play, and on its way";
+    release();
+    loader.waitUntilIdle();
+    EXPECT_EQ(tracks->playing(), "menu.mid");
+    EXPECT_TRUE(tracks->isSounding()) << "now the synthesiser plays it";
+    EXPECT_EQ(said.str(), "");
+}
+
+TEST_F(Tunes, ACloseWinsOverAReadStillUnderWayAndTheTuneIsLetGo) {
+    holdTheLoader();
+    tracks->command("open menu.mid");
+    tracks->command("play menu.mid");
+    tracks->command("close menu.mid");
+    EXPECT_EQ(tracks->playing(), "");
+    EXPECT_EQ(tracks->tunesInMemory(), 1) << "the loading thread still has it";
+    release();
+    loader.waitUntilIdle();
+    EXPECT_FALSE(tracks->isSounding()) << "the read that ended after the close doesn't start it";
+    EXPECT_EQ(tracks->tunesInMemory(), 0);
+}
+
+TEST_F(Tunes, AClosedTuneIsFreedAndAnotherOpenOneIsKept) {
+    tracks->command("open menu.mid");
+    tracks->command("open game1.mid");
+    tracks->command("play menu.mid");
+    loader.waitUntilIdle();
+    EXPECT_EQ(tracks->tunesInMemory(), 2);
+    tracks->command("close menu.mid");
+    EXPECT_FALSE(tracks->isSounding());
+    EXPECT_EQ(tracks->tunesInMemory(), 1);
+    tracks->command("play game1.mid");
+    EXPECT_EQ(tracks->playing(), "game1.mid") << "read already: it starts at once";
+    tracks->command("close game1.mid");
+    EXPECT_EQ(tracks->tunesInMemory(), 0);
+    EXPECT_FALSE(tracks->isSounding());
+}
+
+// A folder of broken tunes: one that isn't MIDI at all, one cut short, one not there.
+class BrokenTunes : public ::testing::Test {
+  protected:
+    std::filesystem::path folder = std::filesystem::temp_directory_path() /
+                                   ("morvane-broken-tunes-" + std::to_string(getpid()));
+    ScopedEnv driver{"SDL_AUDIODRIVER", "dummy"};
+
+    void SetUp() override {
+        std::filesystem::create_directories(folder);
+        std::ofstream(folder / "menu.mid") << "RIFF, but no MIDI";
+        std::ifstream whole(runtimeFolder() / "game1.mid", std::ios::binary);
+        std::string bytes{std::istreambuf_iterator<char>(whole), {}};
+        std::ofstream(folder / "game1.mid", std::ios::binary) << bytes.substr(0, bytes.size() / 2);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder); }
+};
+
+TEST_F(BrokenTunes, EachIsReportedOnceAndStaysSilent) {
+    std::ostringstream said;
+    {
+        WarnOnce warnings(said);
+        MixerDevice device(warnings, kMixBufferSamples);
+        ASSERT_TRUE(device.isOpen());
+        LoadingWorker loader;
+        MusicTracks tracks(folder, warnings, loader, device.rate());
+        for (int round = 0; round < 3; ++round) {
+            for (const char* name : {"menu.mid", "game1.mid", "game2.mid"}) {
+                tracks.command(std::string("open ") + name);
+                tracks.command(std::string("play ") + name);
+                loader.waitUntilIdle();
+                EXPECT_EQ(tracks.playing(), "") << name;
+                EXPECT_FALSE(tracks.isSounding()) << name;
+                tracks.command(std::string("close ") + name);
+            }
+        }
+    }
+    const std::string text = said.str();
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3) << text;
+    EXPECT_NE(text.find("menu.mid: not a MIDI file"), std::string::npos) << text;
+    EXPECT_NE(text.find("game1.mid: a MIDI file cut short"), std::string::npos) << text;
+    EXPECT_NE(text.find("game2.mid: no such file"), std::string::npos) << text;
+}
+
+TEST(TuneFile, AWholeMidiFileHasNoProblemAndItsTracksMustEndInsideIt) {
+    const TuneFile menu = readTuneFile(runtimeFolder() / "menu.mid");
+    EXPECT_EQ(menu.problem, "");
+    EXPECT_GT(menu.bytes.size(), 100u);
+
+    std::vector<unsigned char> header = {'M', 'T', 'h', 'd', 0, 0, 0, 6, 0, 1, 0, 1, 1, 224};
+    EXPECT_EQ(midiProblem(header), "a MIDI file without tracks");
+    std::vector<unsigned char> withTrack = header;
+    withTrack.insert(withTrack.end(), {'M', 'T', 'r', 'k', 0, 0, 0, 4, 0, 0xFF, 0x2F, 0});
+    EXPECT_EQ(midiProblem(withTrack), "");
+    withTrack[withTrack.size() - 5] = 5; // claims one byte more than there is
+    EXPECT_EQ(midiProblem(withTrack), "a MIDI file cut short");
+    header[7] = 2;
+    EXPECT_EQ(midiProblem(header), "a broken MIDI header");
+}
+
+} // namespace
