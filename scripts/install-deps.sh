@@ -7,7 +7,7 @@ packages=(
     qt6-base-dev libsdl2-mixer-dev libfluidsynth-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     timgm6mb-soundfont fonts-liberation fonts-ipafont-gothic
-    xvfb xauth xdg-utils xdotool imagemagick openbox x11-utils python3 strace
+    xvfb xauth xdg-utils xdotool imagemagick openbox rsync x11-utils python3 strace
     weston qt6-wayland
     appstream desktop-file-utils groff-base dpkg-dev file
 )

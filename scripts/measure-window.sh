@@ -47,7 +47,7 @@ hz=$(getconf CLK_TCK)
 # The whole process, and its first thread alone: the window's, without the sound's threads.
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$game_pid/stat"; }
 window_ticks() { awk '{print $14 + $15}' "/proc/$game_pid/task/$game_pid/stat"; }
-rss_kb() { awk '/VmRSS/ {print $2}' "/proc/$game_pid/status"; }
+. scripts/game-probes.sh
 at() { xdotool mousemove $((X + $1)) $((Y + $2)); }
 # The menu's pictures light under a moving mouse, and the lit picture takes the click.
 click() { at "$1" "$2"; sleep 0.2; at $(($1 + 1)) "$2"; sleep 0.2; xdotool click 1; }
@@ -143,13 +143,7 @@ cpu_part() {
         click 500 12 # Menu; 31 idle seconds bring the demo
         park
         sleep 34
-        local peak=0 kb
-        for _ in $(seq 1 10); do
-            kb=$(rss_kb)
-            ((kb > peak)) && peak=$kb
-            sleep 1
-        done
-        echo "music $name: resident memory during the demo: $peak kB at most"
+        echo "music $name: resident memory during the demo: $(peak_rss_kb 10) kB at most"
         stop_game
     done
 }

@@ -20,7 +20,7 @@ trap 'if [ -n "$game_pid" ]; then kill "$game_pid" 2>/dev/null || true; fi; kill
 export DISPLAY=$display MORVANE_HOME=$home XDG_RUNTIME_DIR=$home SDL_AUDIODRIVER=dummy
 sleep 1
 
-rss() { awk '/VmRSS/ {print $2}' "/proc/$game_pid/status"; }
+. scripts/game-probes.sh
 
 play_at() {
     local scale=$1
@@ -35,17 +35,13 @@ play_at() {
     sleep 1
     at 300 250
     local menu_kb
-    menu_kb=$(rss)
+    menu_kb=$(rss_kb)
     click 97 76 # Solo Play: the balls racked, the aim swinging for the break
     at 300 360
     import -window "$win" "$shots/scale-${scale}x.png"
     click 272 349 # the break at full power
-    local peak=0 kb
-    for _ in $(seq 1 10); do
-        kb=$(rss)
-        ((kb > peak)) && peak=$kb
-        sleep 1
-    done
+    local peak
+    peak=$(peak_rss_kb 10)
     echo "scale $scale: window ${WIDTH}x${HEIGHT}, RSS at the menu ${menu_kb} kB," \
          "at most ${peak} kB over the break"
     kill "$game_pid"

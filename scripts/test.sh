@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything, runs every test; then builds the logic layers a
-# second time with AddressSanitizer and UndefinedBehaviorSanitizer and runs their tests too.
+# Installs what is missing, builds everything with every warning an error, runs every test; then
+# builds the logic layers a second time with AddressSanitizer and UndefinedBehaviorSanitizer and
+# runs their tests too.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -10,11 +11,11 @@ jobs=$(nproc)
 export QT_QPA_PLATFORM=offscreen
 export SDL_AUDIODRIVER=dummy
 
-cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo > /dev/null
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMORVANE_WERROR=ON > /dev/null
 cmake --build build -j "$jobs"
 
 cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-    -DMORVANE_LOGIC_ONLY=ON -DMORVANE_SANITIZE=ON -DMORVANE_BENCH=OFF > /dev/null
+    -DMORVANE_LOGIC_ONLY=ON -DMORVANE_SANITIZE=ON -DMORVANE_BENCH=OFF -DMORVANE_WERROR=ON > /dev/null
 cmake --build build-sanitize -j "$jobs"
 
 status=0

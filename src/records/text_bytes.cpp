@@ -18,7 +18,9 @@ bool inRange(unsigned char byte, unsigned char low, unsigned char high) {
 // The length of the well-formed UTF-8 sequence at the start of the bytes, or 0 when there is
 // none: no overlong forms, no surrogates, nothing above U+10FFFF.
 size_t sequenceLength(std::string_view bytes) {
-    const auto at = [&](size_t i) { return i < bytes.size() ? (unsigned char)bytes[i] : 0; };
+    const auto at = [&](size_t i) {
+        return static_cast<unsigned char>(i < bytes.size() ? bytes[i] : '\0');
+    };
     const unsigned char lead = at(0);
     const auto tail = [&](size_t from, size_t to) {
         for (size_t i = from; i < to; ++i) {
@@ -32,13 +34,13 @@ size_t sequenceLength(std::string_view bytes) {
     if (inRange(lead, 0xC2, 0xDF))
         return tail(1, 2) ? 2 : 0;
     if (inRange(lead, 0xE0, 0xEF)) {
-        const unsigned char low = lead == 0xE0 ? 0xA0 : 0x80;
-        const unsigned char high = lead == 0xED ? 0x9F : 0xBF;
+        const auto low = static_cast<unsigned char>(lead == 0xE0 ? 0xA0 : 0x80);
+        const auto high = static_cast<unsigned char>(lead == 0xED ? 0x9F : 0xBF);
         return inRange(at(1), low, high) && tail(2, 3) ? 3 : 0;
     }
     if (inRange(lead, 0xF0, 0xF4)) {
-        const unsigned char low = lead == 0xF0 ? 0x90 : 0x80;
-        const unsigned char high = lead == 0xF4 ? 0x8F : 0xBF;
+        const auto low = static_cast<unsigned char>(lead == 0xF0 ? 0x90 : 0x80);
+        const auto high = static_cast<unsigned char>(lead == 0xF4 ? 0x8F : 0xBF);
         return inRange(at(1), low, high) && tail(2, 4) ? 4 : 0;
     }
     return 0;

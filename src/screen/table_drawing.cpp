@@ -119,8 +119,8 @@ void drawBallDropOnView(Surfaces& s, int n, int pocket) {
         return;
     const DropPath& path = kDropPaths[pocket - kPocketTopLeft];
     for (int k = 0; k < kDropStamps; ++k) {
-        const float x = float(path.x + path.dx * k * kDropStep);
-        const float y = float(path.y + path.dy * k * kDropStep);
+        const float x = float(path.x + path.dx * float(k) * kDropStep);
+        const float y = float(path.y + path.dy * float(k) * kDropStep);
         blitMasked(s.view, roundToPixel(double(tableToPixelX(x)) - kHalfBall),
                    roundToPixel(double(tableToPixelY(y)) - kHalfBall), s.picBalls, kMaskX, kMaskY,
                    kCell * n, kRestingRow, kCell);

@@ -119,8 +119,8 @@ void TimerDriver::poll() {
         afterTicks_();
     if (gameTickDue && tickLog_) {
         const bool openedForm = modalCount_ && modalCount_() != formsBefore;
-        logTick(startedNs / kNanosPerMilli, (clock_.nsecsElapsed() - startedNs) / kNanosPerMilli,
-                openedForm);
+        logTick(double(startedNs) / kNanosPerMilli,
+                double(clock_.nsecsElapsed() - startedNs) / kNanosPerMilli, openedForm);
     }
 }
 
@@ -131,7 +131,7 @@ void TimerDriver::logTick(double startedMs, double costMs, bool openedForm) {
 
 // The ticks of the game and of the break swing about to fire, with how late each comes.
 void TimerDriver::logTimerTicks(int64_t nowMs) {
-    const double atMs = clock_.nsecsElapsed() / kNanosPerMilli;
+    const double atMs = double(clock_.nsecsElapsed()) / kNanosPerMilli;
     for (TimerId id : {kTimer1, kTimer2}) {
         if (isTimerDue(g_, id, nowMs))
             std::fprintf(timerLog_, "%s %.3f %.3f\n", id == kTimer1 ? "Timer1" : "Timer2", atMs,
@@ -146,7 +146,7 @@ void TimerDriver::probeLoop() {
     const double lateMs = double(ns - lastProbeNs_) / kNanosPerMilli - kProbeMs;
     lastProbeNs_ = ns;
     if (lateMs > kProbeSlackMs) {
-        std::fprintf(timerLog_, "loop %.3f %.3f\n", ns / kNanosPerMilli, lateMs);
+        std::fprintf(timerLog_, "loop %.3f %.3f\n", double(ns) / kNanosPerMilli, lateMs);
         std::fflush(timerLog_);
     }
 }

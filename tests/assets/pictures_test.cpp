@@ -1,7 +1,7 @@
 // The pictures the forms carry load from the program's resources at their sizes, and the
 // 256-colour files are true 8-bit BMPs with a palette.
-#include "asset_files.h"
 #include "picture_names.h"
+#include "support/asset_files.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace morvane::test;
+using namespace morvane::testing;
 namespace names = morvane::pictures;
 
 std::set<QRgb> coloursOf(const QImage& image) {

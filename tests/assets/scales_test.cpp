@@ -2,8 +2,8 @@
 // direction, and the same picture as at scale 1, only finer. The sprite sheets keep the rule the
 // table view's raster operations rely on at every scale: sprites on black inside the very disc
 // that the mask darkens.
-#include "asset_files.h"
 #include "picture_names.h"
+#include "support/asset_files.h"
 #include "support/picture_compare.h"
 
 #include <QImage>
@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace morvane::test;
+using namespace morvane::testing;
 using morvane::testing::meanDifference;
 namespace names = morvane::pictures;
 

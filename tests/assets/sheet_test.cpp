@@ -1,7 +1,7 @@
 // The table sheet, as the program carries it and as the 256-colour file, must keep the layout
 // the table view blits from: sprites inside their mask, the cloth, pockets and spots in place.
-#include "asset_files.h"
 #include "picture_names.h"
+#include "support/asset_files.h"
 
 #include <QImage>
 #include <cstdlib>
@@ -10,7 +10,7 @@
 
 namespace {
 
-using morvane::test::runtimePath;
+using morvane::testing::runtimePath;
 
 constexpr int kCell = 20;
 constexpr int kRestRow = 300;
@@ -151,7 +151,7 @@ TEST_P(SheetTest, ModeIconsAndSmallBallsStandOnBlackAndTheRestIsWhite) {
 INSTANTIATE_TEST_SUITE_P(BothSheets, SheetTest,
                          ::testing::Values(SheetCase{"resource", resourceSheet},
                                            SheetCase{"file", fileSheet}),
-                         [](const auto& info) { return std::string(info.param.label); });
+                         [](const auto& sheet) { return std::string(sheet.param.label); });
 
 TEST(SheetFiles, OnlyTheFileCarriesTheHitPointBall) {
     const QImage file = fileSheet().convertToFormat(QImage::Format_RGB32);

@@ -1,13 +1,13 @@
 // The five effects are short 16-bit mono PCM WAVs that sound and don't clip, the clicks
 // rising in strength from vmin to vmax.
-#include "asset_files.h"
+#include "support/asset_files.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
 
-using namespace morvane::test;
+using namespace morvane::testing;
 
 struct Wav {
     uint32_t rate = 0;

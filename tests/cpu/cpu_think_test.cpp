@@ -1,12 +1,12 @@
 #include "cpu/cpu_think.h"
 #include "game/view_coords.h"
-#include "scripted_random.h"
-#include "table_setup.h"
+#include "support/scripted_random.h"
+#include "support/table_setup.h"
 
 #include <gtest/gtest.h>
 
 using namespace morvane;
-using namespace morvane::cputest;
+using namespace morvane::testing;
 
 namespace {
 
@@ -23,7 +23,7 @@ std::size_t thinkWith(GameState& g, int16_t level, std::vector<double> draws) {
 
 GameState onlyBall(int16_t n) {
     GameState g = tableWithCueAt(600, 600);
-    putBall(g, n, 1800, 700);
+    putBall(g.Balls, n, 1800, 700);
     return g;
 }
 
@@ -57,7 +57,7 @@ TEST(CpuThink, TheMissChanceMustExceedTheDrawAndDoublesOnTheNine) {
 TEST(CpuThink, SetsThePowerFromTheRunsAtLevelThreeAndUp) {
     // Straight up into pocket 2: 500 for the cue ball and 250 for the ball, 46.9 -> 46.
     GameState g = tableWithCueAt(1200, 300);
-    putBall(g, 1, 1200, 900);
+    putBall(g.Balls, 1, 1200, 900);
     thinkWith(g, 3, {0.99});
     EXPECT_EQ(g.controls.power, 46);
     thinkWith(g, 2, {0.99});

@@ -2,12 +2,12 @@
 #include "cpu/combinations.h"
 #include "cpu/road_tests.h"
 #include "cpu/shot_geometry.h"
-#include "table_setup.h"
+#include "support/table_setup.h"
 
 #include <gtest/gtest.h>
 
 using namespace morvane;
-using namespace morvane::cputest;
+using namespace morvane::testing;
 
 namespace {
 
@@ -81,7 +81,7 @@ TEST(RoadTests, ABallOnTheLineOrItsEndsCountsByEachTestsOwnRule) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.where);
         GameState g = tableWithCueAt(1100, 600); // the cue ball never counts
-        putBall(g, 2, c.x, c.y);
+        putBall(g.Balls, 2, c.x, c.y);
         EXPECT_EQ(isPathBlocked(g, from, to), c.blocked);
         EXPECT_EQ(isPathBlockedExcept(g, from, to, 1), c.blockedExcept);
         EXPECT_EQ(findBlockingBall(g, from, to, 1), c.blockedExcept ? 2 : 0);
@@ -93,8 +93,8 @@ TEST(RoadTests, NameTheLowestBlockerAndCallARoadOfNoLengthBlocked) {
     GameState g = tableWithCueAt(600, 600);
     const PointType from{600, 600};
     const PointType to{1600, 600};
-    putBall(g, 5, 700, 620);
-    putBall(g, 3, 1500, 580);
+    putBall(g.Balls, 5, 700, 620);
+    putBall(g.Balls, 3, 1500, 580);
     EXPECT_EQ(findBlockingBall(g, from, to, 0), 3);
     EXPECT_EQ(findBlockingBall(g, from, to, 3), 5);
 
@@ -102,7 +102,7 @@ TEST(RoadTests, NameTheLowestBlockerAndCallARoadOfNoLengthBlocked) {
     EXPECT_TRUE(isPathBlockedExcept(g, {90, 90}, {90, 90}, 0));
     EXPECT_EQ(findBlockingBall(g, {90, 90}, {90, 90}, 0), 0);
 
-    putBall(g, 4, 1100, 900);
+    putBall(g.Balls, 4, 1100, 900);
     EXPECT_FALSE(isSpotBlockedExcept(g, 1000, 900, 0)); // exactly 100
     EXPECT_TRUE(isSpotBlockedExcept(g, 1000.1f, 900, 0));
     EXPECT_FALSE(isSpotBlockedExcept(g, 1000.1f, 900, 4));
@@ -126,9 +126,9 @@ TEST(BankPoint, ReportsBlockedLegsAndARoadWithNoBankPoint) {
     GameState g = tableWithCueAt(600, 600);
     const PointType from{600, 600};
     const PointType to{1800, 600}; // by way of (1200, 1150)
-    putBall(g, 1, 900, 875);       // on the first leg: even the named ball counts there
+    putBall(g.Balls, 1, 900, 875);       // on the first leg: even the named ball counts there
     EXPECT_TRUE(findBankPoint(g, from, to, 103, 1).blocked);
-    putBall(g, 1, 1500, 875); // on the second leg: the named ball is left out
+    putBall(g.Balls, 1, 1500, 875); // on the second leg: the named ball is left out
     EXPECT_FALSE(findBankPoint(g, from, to, 103, 1).blocked);
     EXPECT_TRUE(findBankPoint(g, from, to, 103, 2).blocked);
     // From on the cushion line to within half a unit of it.
@@ -137,16 +137,16 @@ TEST(BankPoint, ReportsBlockedLegsAndARoadWithNoBankPoint) {
 
 TEST(Combination, TheLowestNumberedBallBetweenPocketAndTargetBecomesTheSecondBall) {
     GameState g = tableWithCueAt(550, 950);
-    putBall(g, 1, 1450, 500);
+    putBall(g.Balls, 1, 1450, 500);
     EXPECT_FALSE(isCombinationPocket(g, g.pocketTable[6]));
     expectPoint(ghostForPocket(g, 6), 1360.5573f, 544.7214f);
 
-    putBall(g, 4, 1900, 300); // 22.4 off the line from pocket 6 to the target
+    putBall(g.Balls, 4, 1900, 300); // 22.4 off the line from pocket 6 to the target
     EXPECT_TRUE(isCombinationPocket(g, g.pocketTable[6]));
     EXPECT_FALSE(isCombinationPocket(g, g.pocketTable[3]));
     expectPoint(ghostForPocket(g, 6), 1357.7248f, 538.5394f);
 
-    putBall(g, 2, 2200, 130); // farther from the target than ball 4, but the lower number
+    putBall(g.Balls, 2, 2200, 130); // farther from the target than ball 4, but the lower number
     const PointType viaTwo = ghostPoint({1450, 500}, ghostPoint({2200, 130}, {2350, 50}));
     expectPoint(ghostForPocket(g, 6), viaTwo.x, viaTwo.y, 0);
 }

@@ -2,7 +2,9 @@
 #include "cpu/cue_ball_placement.h"
 #include "cpu/direct_shots.h"
 #include "cpu/fallback_shots.h"
-#include "table_setup.h"
+#include "cpu/plan_remarks.h"
+#include "support/recording_screen.h"
+#include "support/table_setup.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +12,7 @@
 #include <vector>
 
 using namespace morvane;
-using namespace morvane::cputest;
+using namespace morvane::testing;
 
 namespace {
 
@@ -30,12 +32,14 @@ template <typename Search> ShotPlan freshPlan(const GameState& g, Search search)
     return plan;
 }
 
-class RecordingScreen : public ScreenPort {
-  public:
-    void drawTable() override { calls.push_back("drawTable"); }
-    void refreshPool() override { calls.push_back("refreshPool"); }
-    std::vector<std::string> calls;
-};
+// What zeph says of the plan that one search finds from scratch, in English or in Japanese.
+template <typename Search>
+std::string remarkAfter(const GameState& g, Search search, bool japanese = false) {
+    ShotPlan plan = startPlan(g);
+    search(g, plan);
+    const Remark remark = remarkOf(plan);
+    return japanese ? remark.japanese : remark.english;
+}
 
 } // namespace
 
@@ -46,7 +50,7 @@ TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     EXPECT_EQ(remarkAfter(g, tryDirect), "Simple is best.");
     EXPECT_EQ(remarkAfter(g, tryDirect, true), "素直が一番。");
 
-    putBall(g, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
+    putBall(g.Balls, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
     const ShotPlan pocketSix = freshPlan(g, tryDirect);
     EXPECT_NEAR(degrees(pocketSix.cutAngle), 58.59, 0.005);
 
@@ -56,19 +60,19 @@ TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     EXPECT_FALSE(equal.found);
     EXPECT_EQ(equal.strategy, Strategy::None);
 
-    putBall(g, 2, 1200, 620); // across the roads to both ghost points that are left
+    putBall(g.Balls, 2, 1200, 620); // across the roads to both ghost points that are left
     EXPECT_FALSE(freshPlan(g, tryDirect).found);
     EXPECT_EQ(remarkAfter(g, tryDirect), "I can do nothing!");
 }
 
 TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysWhichKindOfShotWonLast) {
     GameState g = tableWithCueAt(550, 950);
-    putBall(g, 1, 1450, 500);
+    putBall(g.Balls, 1, 1450, 500);
     EXPECT_EQ(remarkAfter(g, tryDirectCombination), "Easy for me.");
 
     // Ball 4 stands before pocket 6: the plain pot at pocket 3 (67.7 degrees) comes first and the
     // combination replaces it.
-    putBall(g, 4, 1900, 300);
+    putBall(g.Balls, 4, 1900, 300);
     const ShotPlan combination = freshPlan(g, tryDirectCombination);
     expectPlan(combination, 1357.7248f, 538.5394f, 0.4296, 906.4873f, 1006.2306f);
     EXPECT_EQ(combination.strategy, Strategy::DirectCombination);
@@ -93,18 +97,18 @@ TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
     tryObjectBank(g, nearlyStraight);
     EXPECT_FALSE(nearlyStraight.found);
 
-    putBall(g, 2, 2190, 612);                                 // on the target's road to the image
+    putBall(g.Balls, 2, 2190, 612);                                 // on the target's road to the image
     EXPECT_EQ(freshPlan(g, tryObjectBank).planX, plan.planX); // no second ball is worked in
     EXPECT_EQ(remarkAfter(g, tryObjectBank, true), "これは無理かな～");
 
     GameState edge = tableWithCueAt(600, 600);
-    putBall(edge, 1, 1200, 100); // every ghost point for the images lies near the cushion
+    putBall(edge.Balls, 1, 1200, 100); // every ghost point for the images lies near the cushion
     EXPECT_FALSE(freshPlan(edge, tryObjectBank).found);
 }
 
 TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
     GameState g = tableWithCueAt(550, 550);
-    putBall(g, 1, 2000, 1000);
+    putBall(g.Balls, 1, 2000, 1000);
     // Pocket 2 by way of the right cushion.
     expectPlan(freshPlan(g, tryCueBank), 2350, 928.5712f, 1.2707, 2096.6113f, 813.9410f);
     EXPECT_EQ(remarkAfter(g, tryCueBank), "Bank Shot.");
@@ -112,7 +116,7 @@ TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
 
     EXPECT_NEAR(freshPlan(g, tryCueBankCombination).planY, 928.5712f, 0.01);
     EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank Shot!");
-    putBall(g, 3, 1600, 1080); // before pocket 2
+    putBall(g.Balls, 3, 1600, 1080); // before pocket 2
     EXPECT_TRUE(freshPlan(g, tryCueBankCombination).roadHoldsBall);
     EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank & Conbination Shot!");
     EXPECT_EQ(remarkAfter(g, tryCueBankCombination, true), "バンク＆コンビネーション！");
@@ -120,7 +124,7 @@ TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
 
 TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
     GameState g = tableWithCueAt(600, 600);
-    putBall(g, 1, 1800, 600);
+    putBall(g.Balls, 1, 1800, 600);
     // Probe 1, the centre, is blocked by the target; probe 3 against pocket 3 beats probe 2.
     expectPlan(freshPlan(g, tryJustHit), 1769.7165f, 506.7959f, 49.5560, 1173.4268f, 777.8175f);
     EXPECT_EQ(remarkAfter(g, tryJustHit), "Difficalt !");
@@ -134,7 +138,7 @@ TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
 
 TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
     GameState g = tableWithCueAt(600, 900);
-    putBall(g, 1, 2000, 900);
+    putBall(g.Balls, 1, 2000, 900);
     // Left: 4450 in all; right: blocked by the target; top: 3303.4, chosen; bottom: 3303.4 again
     // is not below it, yet its runs are the ones written last.
     const ShotPlan plan = freshPlan(g, tryCushionHit);
@@ -143,7 +147,7 @@ TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
     EXPECT_EQ(remarkAfter(g, tryCushionHit, true), "とりあえず当てていきましょうかね。");
 
     GameState mouth = tableWithCueAt(600, 600);
-    putBall(mouth, 1, 1700, 600); // top and bottom bank points at x = 1150 exactly
+    putBall(mouth.Balls, 1, 1700, 600); // top and bottom bank points at x = 1150 exactly
     expectPlan(freshPlan(mouth, tryCushionHit), 50, 600, 180, 2200, 1650);
 }
 
@@ -171,8 +175,8 @@ TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestPocket) {
 
 TEST(PlaceCueBall, SkipsTakenSpotsAndSpotsOnACushionLineAndStaysPutWithoutBallInHand) {
     GameState g = tableWithCueAt(600, 900);
-    putBall(g, 1, 1200, 250);
-    putBall(g, 2, 1200, 450); // takes the spot for pocket 5
+    putBall(g.Balls, 1, 1200, 250);
+    putBall(g.Balls, 2, 1200, 450); // takes the spot for pocket 5
     placeCueBall(g);
     EXPECT_EQ(g.Balls[0].x, 600);
     EXPECT_NEAR(g.aimX, 1200, 1e-3);

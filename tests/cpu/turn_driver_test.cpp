@@ -1,12 +1,12 @@
 #include "cpu/turn_driver.h"
 #include "game/timers.h"
-#include "scripted_random.h"
-#include "table_setup.h"
+#include "support/scripted_random.h"
+#include "support/table_setup.h"
 
 #include <gtest/gtest.h>
 
 using namespace morvane;
-using namespace morvane::cputest;
+using namespace morvane::testing;
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "game/break_run.h"
 #include "game/racking.h"
 #include "game/shot_button.h"
-#include "game_fixtures.h"
 #include "support/recording_contacts.h"
+#include "support/recording_sound.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,8 @@
 #include "game/contact_effects.h"
-#include "game_fixtures.h"
-#include "table/table_fixtures.h"
+#include "support/balls.h"
+#include "support/recording_contacts.h"
+#include "support/recording_screen.h"
+#include "support/recording_sound.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +13,7 @@ namespace {
 
 struct ShotFrame : ::testing::Test {
     GameState g;
-    ShotScreen screen;
+    RecordingScreen screen;
     RecordingSound sound;
     RecordingContacts contacts;
     void SetUp() override {

@@ -1,5 +1,5 @@
 #include "game/sounds.h"
-#include "game_fixtures.h"
+#include "support/recording_sound.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <random>
 
 using namespace morvane;
 
@@ -146,20 +145,6 @@ TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKey) {
     writeFile("MVSCORE.INI", "[ZEPH]\nLV=99\n");
     loadZephLevel(g);
     EXPECT_EQ(g.zephLevel, 11);
-}
-
-TEST_F(ScoreFile, RandomBytesLoadAsRowsOfTheirWidth) {
-    std::mt19937 random(11);
-    std::string noise;
-    for (int i = 0; i < 16 * 1024; ++i)
-        noise += i % 997 ? std::string(1, char(random())) : "\n[SOLO]\nName01=";
-    writeFile("MVSCORE.INI", noise);
-    GameState g;
-    loadSoloRecord(g);
-    loadZephLevel(g);
-    EXPECT_EQ(codePointCount(g.soloRecords[1].Name), 20);
-    EXPECT_EQ(g.soloRecords[1].Name.find('\0'), std::string::npos);
-    EXPECT_TRUE(g.zephLevel >= 1 && g.zephLevel <= 11);
 }
 
 TEST_F(ScoreFile, NamesOfAnyBytesLoadAsTextOfTwentyCharacters) {

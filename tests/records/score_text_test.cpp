@@ -15,14 +15,6 @@ std::vector<std::string> texts(const ScoreRow& row) {
     return all;
 }
 
-TEST(ScoreTextTest, TheRowsStandFifteenPixelsApartAndTheLowerTableThirtyBelowTheUpper) {
-    EXPECT_EQ(25, soloRowY(1));
-    EXPECT_EQ(160, soloRowY(10));
-    EXPECT_EQ(192, vsCpuTitleY());
-    EXPECT_EQ(215, vsCpuRowY(1));
-    EXPECT_EQ(350, vsCpuRowY(10));
-}
-
 TEST(ScoreTextTest, FreshRowsReadAsTheDefaultsInTheirColumns) {
     const SoloRecordType solo;
     EXPECT_EQ((std::vector<std::string>{"10: 3", "40:zeph", "150:0 Shots", "230:10 Turns",

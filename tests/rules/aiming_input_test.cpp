@@ -54,17 +54,6 @@ TEST_F(Aiming, TheCueBallInHandIsTakenOnlyStrictlyInsideItsRadius) {
     EXPECT_FLOAT_EQ(g.Balls[0].x, 645);
 }
 
-TEST_F(Aiming, ACueBallDraggedOffTheTableIsClampedOnReleaseAndRedrawn) {
-    g.ballInHand = true;
-    picPool_MouseDown(g, kLeft, cueX(), cueY());
-    picPool_MouseMove(g, kLeft, 10, 290);
-    EXPECT_FLOAT_EQ(g.controls.qBall.left, 0);
-    EXPECT_FLOAT_EQ(g.Balls[0].x, pixelToTableX(10));
-    picPool_MouseUp(g, kLeft, 10, 290);
-    EXPECT_FLOAT_EQ(g.Balls[0].x, kCushionLeftX);
-    EXPECT_FLOAT_EQ(g.Balls[0].y, kCushionBottomY);
-}
-
 TEST_F(Aiming, OnTheBreakThePressFarFromTheCueBallDoesNothing) {
     g.breakPending = true;
     g.aimX = 1790;

@@ -89,11 +89,4 @@ TEST_F(Back, TheLabelRefusesWhileBallsRollOrBeforeTheBreak) {
     EXPECT_EQ(g.shotCount, 2);
 }
 
-TEST(PocketNames, NumbersOutsideOneToSixHaveNoName) {
-    EXPECT_EQ(getPocketName(1), "左上のポケット");
-    EXPECT_EQ(getPocketName(5), "下の真ん中のポケット");
-    EXPECT_EQ(getPocketName(0), "");
-    EXPECT_EQ(getPocketName(7), "");
-}
-
 } // namespace

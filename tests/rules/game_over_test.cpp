@@ -19,21 +19,7 @@ class GameOver : public RulesTest {
     }
 };
 
-TEST_F(GameOver, ASoloGameShowsItsStatisticsThenRacksAFreshGame) {
-    g.players[0].name = "Tester";
-    screen.onInputBox = [this] { g.players[0].name = "Tester"; };
-    sinkTheNine();
-    ASSERT_FALSE(screen.forms.empty());
-    EXPECT_EQ(screen.forms[0], "frmRecord");
-    EXPECT_TRUE(g.breakPending);
-    EXPECT_EQ(g.shotCount, 0);
-    EXPECT_EQ(g.turnCount, 0);
-    EXPECT_EQ(getPocketedString(g), "000000000");
-    EXPECT_FALSE(isTimerEnabled(g, kTimTimeCounter));
-    EXPECT_TRUE(g.controls.target.visible);
-}
-
-TEST_F(GameOver, AShortSoloGameEntersTheTableUnderTheGivenName) {
+TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
     screen.onInputBox = [this] { g.players[0].name = "Tester"; };
     sinkTheNine();
     EXPECT_EQ(screen.forms, (std::vector<std::string>{"frmRecord", "frmInputBox"}));
@@ -41,13 +27,15 @@ TEST_F(GameOver, AShortSoloGameEntersTheTableUnderTheGivenName) {
     EXPECT_EQ(g.soloRecords[1].Turn, 1);
     EXPECT_EQ(g.soloRecords[1].Shots, 1);
     EXPECT_EQ(g.soloRecords[1].place, 11);
-}
+    EXPECT_TRUE(g.breakPending) << "a fresh game is racked";
+    EXPECT_EQ(getPocketedString(g), "000000000");
 
-TEST_F(GameOver, ASoloGameOfElevenTurnsAsksNoName) {
-    g.turnCount = 10;
-    sinkTheNine();
-    EXPECT_EQ(screen.forms, std::vector<std::string>{"frmRecord"});
-    EXPECT_FALSE(g.controls.scoreVisible);
+    for (const int16_t turnsBefore : std::initializer_list<int16_t>{9, 10}) {
+        screen.forms.clear();
+        g.turnCount = turnsBefore;
+        sinkTheNine();
+        EXPECT_EQ(screen.forms.size(), turnsBefore == 9 ? 2u : 1u) << turnsBefore + 1 << " turns";
+    }
 }
 
 TEST_F(GameOver, AMatchOfOneGameEndsAndTheNextMatchStartsWithPlayerOneToBreak) {

@@ -61,14 +61,6 @@ TEST_F(Modes, CancelOnTheSetUpFormLandsOnTheMenu) {
     EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
 }
 
-TEST_F(Modes, TheLabelsAreDeadWhileBallsRoll) {
-    picSoloPlay_Click(g, 0);
-    setTimerEnabled(g, kTimer1, true);
-    lblMenu_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_FALSE(g.controls.menuVisible);
-}
-
 TEST_F(Modes, TheMenuLabelLeavesAGameForTheMenuAndItsMusic) {
     picSoloPlay_Click(g, 0);
     lblMenu_Click(g, 0);
@@ -157,23 +149,6 @@ TEST_F(Modes, StartFromTheMenuKeepsTheMenuModeSoTheDemoCountGoesOn) {
     EXPECT_EQ(g.gameMode, kModeMenu);
     timDemo_Timer(g);
     EXPECT_EQ(g.demoCounter, 1);
-}
-
-TEST(NewGameState, RacksWithFullPowerAndTheAimOnTheApexBall) {
-    GameState g;
-    g.aimX = 5;
-    g.controls.power = 40;
-    g.players[0].gamesWon = 2;
-    newGame(g);
-    EXPECT_EQ(g.aimX, g.Balls[1].x);
-    EXPECT_EQ(g.aimY, g.Balls[1].y);
-    EXPECT_EQ(g.controls.power, 100);
-    EXPECT_EQ(g.players[0].gamesWon, 2);
-    EXPECT_TRUE(g.breakPending);
-    EXPECT_TRUE(isTimerEnabled(g, kTimer2));
-    EXPECT_FALSE(g.controls.mnuRetryEnabled);
-    EXPECT_EQ(g.controls.qBall.left, 140);
-    EXPECT_EQ(g.controls.qBall.top, 140);
 }
 
 } // namespace

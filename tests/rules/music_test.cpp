@@ -74,32 +74,6 @@ class Music : public ::testing::Test {
     void rollCueBall(float speed) { g.Balls[kCueBall].speed = speed; }
 };
 
-TEST_F(Music, TheTableHoldsFiveTracksAndElevenComposers) {
-    const char* titles[] = {"Take to You", "To Your Holiday", "A Scent of Wind", "Sweet Dreams",
-                            "For Good"};
-    const char* files[] = {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"};
-    for (int i = 0; i < 11; ++i) {
-        const BgmTrack& t = g.bgmTracks[i];
-        EXPECT_EQ(t.composer, "lirra") << i;
-        EXPECT_EQ(t.title, i < 5 ? titles[i] : "") << i;
-        EXPECT_EQ(t.file, i < 5 ? files[i] : "") << i;
-        EXPECT_EQ(t.seconds, i < 5 ? 30 : 0) << i;
-    }
-    EXPECT_EQ(g.bgmScene, 0);
-    EXPECT_EQ(g.bgmScenePrevious, -1);
-}
-
-TEST_F(Music, TheFirstTickPlaysTheMenuTrackAndNamesItInTheCaption) {
-    g.controls.windowCaption = "MORVANE Ver.3.02";
-    EXPECT_EQ(tick(), (std::vector<std::string>{"open menu.mid", "play menu.mid"}));
-    EXPECT_EQ(g.controls.windowCaption,
-              "MORVANE Ver.3.02 by zeph --- BGM:\"Take to You\" by lirra");
-    EXPECT_EQ(g.bgmScenePrevious, 0);
-    EXPECT_EQ(g.bgmTicks, 0);
-    EXPECT_TRUE(tick().empty()) << "the next tick only counts";
-    EXPECT_EQ(g.bgmTicks, 1);
-}
-
 TEST_F(Music, ASceneChangeClosesEverythingAndStartsTheNewTrackAtTheNextTick) {
     tick();
     setMusicScene(g, kSceneSolo);
@@ -152,16 +126,6 @@ TEST_F(Music, ARollingBallHoldsTheRestartBackInSilence) {
     EXPECT_EQ(tick().back(), "play menu.mid");
     EXPECT_EQ(player.playing, "menu.mid");
     EXPECT_EQ(g.bgmTicks, 1);
-}
-
-TEST_F(Music, TheTickCounterStartsAgainPastAnHour) {
-    tick();
-    rollCueBall(300);
-    g.bgmTicks = 7199;
-    tick();
-    EXPECT_EQ(g.bgmTicks, 7200) << "3600 seconds is not above 3600";
-    tick();
-    EXPECT_EQ(g.bgmTicks, 0);
 }
 
 TEST_F(Music, OffAndOnAgainDuringAGameGivesTheMenuTrack) {

@@ -114,29 +114,51 @@ TEST(Respot, ABallOnTheFootSpotSendsTheFirstOneFurtherAndAFullLineSendsItTowardT
     EXPECT_EQ(g.Balls[9].x, 1700);
 }
 
-TEST(Respot, TheCueBallGoesToTheHeadSpotOrTheNearestFreePlaceAboveOrBelowIt) {
-    GameState g;
-    setTable(g, {{5, 600, 600}, {6, 600, 700}});
-    g.pocketedThisShot = {0};
-    g.pocketedCount = 1;
-    respotBalls(g);
-    EXPECT_EQ(g.Balls[0].x, 600);
-    EXPECT_EQ(g.Balls[0].y, 500);
-    EXPECT_TRUE(g.Balls[0].onTable);
+TEST(Respot, TheCueBallGoesToTheHeadSpotElseTheNearestFreePlaceAboveThenBelowIt) {
+    struct Case {
+        std::vector<BallPlace> taken;
+        float y;
+    };
+    const Case cases[] = {
+        {{{5, 1200, 900}}, 600},
+        {{{5, 600, 600}}, 700},
+        {{{5, 600, 600}, {6, 600, 700}}, 500},
+        {{{5, 600, 600}, {6, 600, 700}, {7, 600, 500}}, 800},
+    };
+    for (const Case& c : cases) {
+        GameState g;
+        setTable(g, c.taken);
+        g.pocketedThisShot = {0};
+        g.pocketedCount = 1;
+        respotBalls(g);
+        EXPECT_EQ(g.Balls[0].x, 600);
+        EXPECT_EQ(g.Balls[0].y, c.y);
+        EXPECT_TRUE(g.Balls[0].onTable);
+    }
 }
 
-TEST(Judging, ACueBallInAPocketIsAFoulBeforeAnyPotCounts) {
-    GameState g;
-    setTable(g, {{1, 900, 900}});
-    g.firstHitBall = 1;
-    g.targetBall = 1;
-    EXPECT_EQ(judgeShot(g), ShotOutcome::CueBallFoul);
-    g.Balls[0].onTable = true;
-    EXPECT_EQ(judgeShot(g), ShotOutcome::GameOver) << "the nine is off the table";
-    g.Balls[9].onTable = true;
-    EXPECT_EQ(judgeShot(g), ShotOutcome::Legal);
-    g.firstHitBall = 0;
-    EXPECT_EQ(judgeShot(g), ShotOutcome::MissFoul);
+// The cue ball in a pocket is judged first, then the first ball hit, then the nine.
+TEST(Judging, CueBallInAPocketThenAMissThenTheNine) {
+    struct Case {
+        bool cueOn;
+        bool nineOn;
+        int16_t firstHit;
+        ShotOutcome outcome;
+    };
+    const Case cases[] = {
+        {false, true, 1, ShotOutcome::CueBallFoul}, {false, false, 0, ShotOutcome::CueBallFoul},
+        {true, true, 0, ShotOutcome::MissFoul},     {true, false, 0, ShotOutcome::MissFoul},
+        {true, false, 1, ShotOutcome::GameOver},    {true, true, 1, ShotOutcome::Legal},
+    };
+    for (const Case& c : cases) {
+        GameState g;
+        setTable(g, {{1, 900, 900}});
+        g.Balls[0].onTable = c.cueOn;
+        g.Balls[9].onTable = c.nineOn;
+        g.firstHitBall = c.firstHit;
+        g.targetBall = 1;
+        EXPECT_EQ(judgeShot(g), c.outcome) << c.cueOn << c.nineOn << c.firstHit;
+    }
 }
 
 } // namespace

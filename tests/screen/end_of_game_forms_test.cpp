@@ -166,24 +166,6 @@ TEST_F(EndOfGameFormsTest, TheNameFormGreetsTakesTwelveCharactersAndClosesOnEnte
     EXPECT_EQ("Cy          ", g.players[0].name);
 }
 
-TEST_F(EndOfGameFormsTest, TheMatchFormsCancelGoesToTheMenuWithoutZeph) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = true;
-    g.players[0].name = "You";
-    g.players[1].name = "zeph";
-    bool secondEditable = true;
-    whenShown<MatchForm>([&](MatchForm& form) {
-        secondEditable = form.txtPlayerName(1)->isEnabled();
-        QTest::mouseClick(form.picCancel(), Qt::LeftButton);
-    });
-    screen->showChangeVsMode();
-    EXPECT_FALSE(secondEditable);
-    EXPECT_EQ(kModeMenu, g.gameMode);
-    EXPECT_FALSE(g.versusCpu);
-    EXPECT_EQ(QSize(201, 187), formSize);
-    EXPECT_EQ(centredOverWindow(), formPlace);
-}
-
 TEST_F(EndOfGameFormsTest, TheMatchFormsOkTakesTheEditedNamesAndTheLength) {
     g.gameMode = kModeVersus;
     g.versusCpu = false;

@@ -106,6 +106,8 @@ class ScreenTest : public ::testing::Test {
         g.Balls[i].x = (px - 30) / 0.2f;
         g.Balls[i].y = 1200 - (py - 30) / 0.2f;
     }
+    // At a whole pixel, as most places in the layout are.
+    void putBallAtPixel(int i, int px, int py) { putBallAtPixel(i, float(px), float(py)); }
 
     QRgb backPixel(int x, int y) { return layoutPixel(screen->surfaces().backBuffer, x, y); }
     QRgb trayPixel(int x, int y) { return layoutPixel(screen->surfaces().tray, x, y); }

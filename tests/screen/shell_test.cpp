@@ -67,6 +67,15 @@ class ShellTest : public ScreenTest {
         EXPECT_EQ(shownSplash(), nullptr);
     }
 
+    // Solo Play from the menu, and the counters of a game that earns a row when it ends.
+    void playSoloGameGoodForTheTable() {
+        moveOver(menu().picture(kPicSoloPlay, 0));
+        click(menu().picture(kPicSoloPlay, 1));
+        g.turnCount = 2;
+        g.shotCount = 12;
+        g.gameSeconds = 95;
+    }
+
     static OpeningForm* shownSplash() {
         for (QWidget* w : QApplication::topLevelWidgets()) {
             if (auto* splash = qobject_cast<OpeningForm*>(w); splash && splash->isVisible())
@@ -284,11 +293,7 @@ TEST_F(ShellTest, TheDemoStartsOnThe31stTickAndAClickOnTheTableEndsItWhileBallsR
 }
 
 TEST_F(ShellTest, ASoloGameThatEarnsAPlaceOpensTheRecordScreenWithItsRowInMagenta) {
-    moveOver(menu().picture(kPicSoloPlay, 0));
-    click(menu().picture(kPicSoloPlay, 1));
-    g.turnCount = 2;
-    g.shotCount = 12;
-    g.gameSeconds = 95;
+    playSoloGameGoodForTheTable();
     endGame(g);
     window->syncControlsFromState();
     ASSERT_TRUE(shown(window->picScore()));
@@ -336,11 +341,7 @@ void repeatHeldKey(QWidget* receiver, Qt::Key key, quint64 stamp) {
 // "Your Record" closed by Escape held a little too long, or by a click whose release reaches the
 // form after it: the name form that follows waits, its focus in the box, for the typed name.
 TEST_F(ShellTest, TheNameFormAfterTheRecordFormWaitsForTheNameHoweverTheRecordFormClosed) {
-    moveOver(menu().picture(kPicSoloPlay, 0));
-    click(menu().picture(kPicSoloPlay, 1));
-    g.turnCount = 2;
-    g.shotCount = 12;
-    g.gameSeconds = 95;
+    playSoloGameGoodForTheTable();
     bool waited = false;
     bool focusInBox = false;
     QString afterBackspace;

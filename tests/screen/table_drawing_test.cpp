@@ -141,7 +141,7 @@ TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),
-                         [](const auto& info) { return std::to_string(info.param) + "x"; });
+                         [](const auto& scale) { return std::to_string(scale.param) + "x"; });
 
 // The same frame on the game's own sheet, at scale 1 and scale 2.
 class SheetFrameTest : public ScreenTest {

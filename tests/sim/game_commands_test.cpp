@@ -40,15 +40,6 @@ TEST_F(GameCommands, ThinkAtLevelOneCutsBallOneIntoTheCornerWithFullPower) {
     EXPECT_EQ(r["cue"], json::array({600.0, 600.0})) << "no ball in hand: the cue ball stays";
 }
 
-TEST_F(GameCommands, ThinkAtLevelFiveTakesTheObjectBallBankWithTheSmallerCut) {
-    const json r = thinkOnTheWorkedTable("5");
-    const json& plan = r["plan"];
-    EXPECT_EQ(r["strategy"], "tryObjectBank");
-    EXPECT_LT(plan["cutAngle"].get<double>(), 37.42 * kDegree);
-    EXPECT_GT(plan["ballRun"].get<double>(), 1000) << "the object ball runs off a cushion";
-    EXPECT_EQ(thinkOnTheWorkedTable("11")["plan"], plan) << "the higher levels find it too";
-}
-
 TEST_F(GameCommands, ThinkWithBallInHandPlacesTheCueBallAndWithABreakDoesNotThink) {
     CommandRun run = runTool({"think", "--level", "4", "--seed", "1"},
                              twoBalls(1800, 700, R"("ballInHand": true)"));

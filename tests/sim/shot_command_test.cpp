@@ -79,30 +79,6 @@ TEST(ShotCommand, SameSeedSameShotAndTheSeedMatters) {
               shotResult(input, {"--seed", "2"})["balls"]);
 }
 
-TEST(ShotCommand, DeadOnHitLeavesTheCueBallWhereItMetTheObjectBall) {
-    // Ball 1 runs to the far cushion and back, but not as far back as the cue ball.
-    const json r = shotResult(twoBalls(800, 600, R"("aim": [800, 600], "power": 35)"));
-    EXPECT_EQ(r["firstHitBall"], 1);
-    EXPECT_EQ(r["events"][0]["ball"], 0);
-    EXPECT_EQ(r["events"][0]["partner"], 1);
-    EXPECT_EQ(r["events"][1]["partner"], 102);
-    EXPECT_NEAR(r["balls"][0]["x"].get<double>(), 700, 0.01);
-    EXPECT_NEAR(r["balls"][1]["y"].get<double>(), 600, 0.01);
-    EXPECT_TRUE(r["pocketed"].empty());
-}
-
-TEST(ShotCommand, ObjectBallSentIntoTheCornerIsPocketed) {
-    // Ball 1 on the line from the cue ball to the top right corner, where the cushion lines meet.
-    const json r = shotResult(
-        twoBalls(1700, 945.714, R"("aim": [1700, 945.714], "power": 90, "hit": [0, -0.5])"));
-    ASSERT_EQ(r["pocketed"].size(), 1u);
-    EXPECT_EQ(r["pocketed"][0], 1);
-    EXPECT_FALSE(r["balls"][1]["onTable"].get<bool>());
-    const json& capture = r["events"][1];
-    EXPECT_EQ(capture["ball"], 1);
-    EXPECT_EQ(capture["pocket"], 3);
-}
-
 TEST(ShotCommand, TraceWritesOneLinePerContact) {
     const CommandRun run =
         runShot(R"({"break": true, "aim": [1700, 600]})", {"--seed", "4", "--trace"});

@@ -69,22 +69,6 @@ TEST_F(Sound, TunesAreOpenedPlayedAndClosedByName) {
     EXPECT_EQ(warnings.str(), "");
 }
 
-TEST_F(Sound, EffectsOffLeavesTheMusicTimerPlaying) {
-    GameState g;
-    g.ports.sound = &sound;
-    setTimerInterval(g, kTimBGM, 500);
-    initBgmTable(g);
-    g.soundOn = 0;
-    g.shotCount = 2;
-    playContactSound(g, 4000);
-    playPocketSound(g, 5600);
-    timBGM_Timer(g);
-    EXPECT_EQ(sound.effectPlaying(), "");
-    EXPECT_EQ(sound.musicPlaying(), "menu.mid");
-    closeAllTracks(g);
-    EXPECT_EQ(sound.musicPlaying(), "");
-}
-
 TEST(SoundWithoutFiles, StaysSilentAndSaysSoOnceAFile) {
     const std::filesystem::path empty =
         std::filesystem::temp_directory_path() / ("morvane-no-sounds-" + std::to_string(getpid()));

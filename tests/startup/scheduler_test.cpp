@@ -1,7 +1,6 @@
 // The scheduler of the six timers in virtual time.
 #include "game/shot_input.h"
 #include "game/timers.h"
-#include "rules/music.h"
 #include "startup/scheduler.h"
 
 #include <gtest/gtest.h>
@@ -10,20 +9,18 @@ using namespace morvane;
 
 namespace {
 
-TEST(Scheduler, TimersStartOffWithTheirIntervals) {
+// The timers as the program starts them, with the game clock's one second timer running.
+class Scheduler : public ::testing::Test {
+  protected:
     GameState g;
-    initTimers(g);
-    const int32_t expected[] = {50, 10, 100, 1000, 1000, 500};
-    for (int i = 0; i < kTimerCount; ++i) {
-        EXPECT_EQ(g.timers[i].interval, expected[i]);
-        EXPECT_FALSE(g.timers[i].enabled);
+    void SetUp() override {
+        initTimers(g);
+        setTimerEnabled(g, kTimTimeCounter, true);
     }
-    EXPECT_EQ(nextDueTime(g), -1);
-}
+};
 
-TEST(Scheduler, ATimerSwitchedOnCountsItsIntervalFromThatMoment) {
-    GameState g;
-    initTimers(g);
+TEST_F(Scheduler, ATimerSwitchedOnCountsItsIntervalFromThatMoment) {
+    setTimerEnabled(g, kTimTimeCounter, false);
     advanceVirtualTime(g, 730);
     setTimerEnabled(g, kTimTimeCounter, true);
     EXPECT_EQ(nextDueTime(g), 1730);
@@ -35,29 +32,23 @@ TEST(Scheduler, ATimerSwitchedOnCountsItsIntervalFromThatMoment) {
     EXPECT_EQ(g.gameSeconds, 5);
 }
 
-TEST(Scheduler, SwitchingAnEnabledTimerOnAgainDoesNotRestartIt) {
-    GameState g;
-    initTimers(g);
-    setTimerEnabled(g, kTimTimeCounter, true);
+TEST_F(Scheduler, SwitchingAnEnabledTimerOnAgainDoesNotRestartIt) {
     advanceVirtualTime(g, 600);
     setTimerEnabled(g, kTimTimeCounter, true);
     advanceVirtualTime(g, 1000);
     EXPECT_EQ(g.gameSeconds, 1);
 }
 
-TEST(Scheduler, ALateDriverFiresEachTimerOnceAndDoesNotMakeUpTheMissedTicks) {
-    GameState g;
-    initTimers(g);
-    setTimerEnabled(g, kTimTimeCounter, true);
-    runDueTimers(g, 4500); // the window was busy for four and a half seconds
+TEST_F(Scheduler, ALateDriverFiresEachTimerOnceAndDoesNotMakeUpTheMissedTicks) {
+    runDueTimers(g, 2000); // a whole second late: one tick, and the next a second on
     EXPECT_EQ(g.gameSeconds, 1);
-    EXPECT_EQ(nextDueTime(g), 5500);
+    EXPECT_EQ(nextDueTime(g), 3000);
+    runDueTimers(g, 6500); // the window was busy for three and a half seconds
+    EXPECT_EQ(g.gameSeconds, 2);
+    EXPECT_EQ(nextDueTime(g), 7500);
 }
 
-TEST(Scheduler, ATimerNeverFiresWhileItsOwnHandlerIsRunning) {
-    GameState g;
-    initTimers(g);
-    setTimerEnabled(g, kTimTimeCounter, true);
+TEST_F(Scheduler, ATimerNeverFiresWhileItsOwnHandlerIsRunning) {
     g.timers[kTimTimeCounter].running = true; // as under a modal form shown by its own handler
     advanceVirtualTime(g, 3000);
     EXPECT_EQ(g.gameSeconds, 0);
@@ -66,36 +57,10 @@ TEST(Scheduler, ATimerNeverFiresWhileItsOwnHandlerIsRunning) {
     EXPECT_EQ(g.gameSeconds, 1);
 }
 
-TEST(Scheduler, AdvanceUntilStopsAtTheFirstTickThatMeetsTheCondition) {
-    GameState g;
-    initTimers(g);
-    setTimerEnabled(g, kTimTimeCounter, true);
+TEST_F(Scheduler, AdvanceUntilStopsAtTheFirstTickThatMeetsTheCondition) {
     EXPECT_TRUE(advanceUntil(g, 60000, [&] { return g.gameSeconds == 3; }));
     EXPECT_EQ(g.nowMs, 3000);
     EXPECT_FALSE(advanceUntil(g, 3500, [&] { return g.gameSeconds == 9; }));
-}
-
-TEST(Scheduler, TheMusicTimerStartsTheMenuTrackHalfASecondInThenEveryThirtyAndAHalfSeconds) {
-    struct : SoundPort {
-        std::vector<std::pair<int64_t, std::string>> plays;
-        const GameState* g = nullptr;
-        void sendMusic(const std::string& command) override {
-            if (command.rfind("play ", 0) == 0)
-                plays.push_back({g->nowMs, command});
-        }
-    } music;
-    GameState g;
-    music.g = &g;
-    g.ports.sound = &music;
-    initTimers(g);
-    initBgmTable(g);
-    setTimerEnabled(g, kTimBGM, true);
-    advanceVirtualTime(g, 92500);
-    const std::vector<std::pair<int64_t, std::string>> expected = {{500, "play menu.mid"},
-                                                                   {31500, "play menu.mid"},
-                                                                   {62000, "play menu.mid"},
-                                                                   {92500, "play menu.mid"}};
-    EXPECT_EQ(music.plays, expected);
 }
 
 // A solo game waiting for its break, with the menu over the table or not, from time 0; the

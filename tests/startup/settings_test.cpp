@@ -1,6 +1,8 @@
 #include "game/timers.h"
 #include "rules/music.h"
 #include "startup/settings.h"
+#include "support/recording_screen.h"
+#include "support/recording_sound.h"
 #include "support/temp_home.h"
 
 #include <gtest/gtest.h>
@@ -9,23 +11,16 @@ using namespace morvane;
 
 namespace {
 
-class RecordingPorts : public ScreenPort, public SoundPort {
-  public:
-    std::vector<std::string> messages;
-    std::vector<std::string> music;
-    void showPlainMessage(const std::string& text) override { messages.push_back(text); }
-    void sendMusic(const std::string& command) override { music.push_back(command); }
-};
-
 class Settings : public morvane::testing::TempHomeTest {
   protected:
-    RecordingPorts ports;
+    morvane::testing::RecordingScreen screen;
+    morvane::testing::RecordingSound sound;
     GameState g;
 
     void SetUp() override {
         TempHomeTest::SetUp();
-        g.ports.screen = &ports;
-        g.ports.sound = &ports;
+        g.ports.screen = &screen;
+        g.ports.sound = &sound;
         const char* files[] = {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"};
         for (int i = 0; i < kBgmTrackCount; ++i)
             g.bgmTracks[i].file = files[i];
@@ -45,7 +40,7 @@ TEST_F(Settings, AFirstStartTurnsEverythingOnAndWritesTheThreeKeysInOrder) {
     const ControlsState& c = g.controls;
     EXPECT_TRUE(c.soundPicOn && c.bgmPicOn && c.colorPicOn && c.mnuSoundChecked);
     EXPECT_TRUE(isTimerEnabled(g, kTimBGM));
-    EXPECT_TRUE(ports.messages.empty()) << "the main window is still hidden";
+    EXPECT_TRUE(screen.messages.empty()) << "the main window is still hidden";
 }
 
 TEST_F(Settings, StoredValuesAreReadAndWrittenBackInTheirOwnForm) {
@@ -86,7 +81,7 @@ TEST_F(Settings, MusicOffClosesEveryTrackAndOnComesBackWithTheMenuTrack) {
     picBGM_Click(g, 0);
     EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(0, -1, 2));
     EXPECT_FALSE(isTimerEnabled(g, kTimBGM) || g.controls.bgmPicOn);
-    EXPECT_EQ(ports.music,
+    EXPECT_EQ(sound.music,
               (std::vector<std::string>{"close menu.mid", "close record.mid", "close game1.mid",
                                         "close game2.mid", "close game3.mid"}));
     EXPECT_EQ(settings(), "[MORVANE]\nBGM= 0\n");
@@ -96,7 +91,7 @@ TEST_F(Settings, MusicOffClosesEveryTrackAndOnComesBackWithTheMenuTrack) {
     EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(-1, 0, -1));
     EXPECT_TRUE(isTimerEnabled(g, kTimBGM) && g.controls.bgmPicOn);
     EXPECT_EQ(g.timers[kTimBGM].dueAt, 1500);
-    EXPECT_EQ(ports.music.size(), 5u) << "switching on sends nothing";
+    EXPECT_EQ(sound.music.size(), 5u) << "switching on sends nothing";
     EXPECT_EQ(settings(), "[MORVANE]\nBGM=-1\n");
 }
 
@@ -107,13 +102,13 @@ TEST_F(Settings, TheColourSwitchSpeaksOnlyWhenTheWindowShowsAndTheValueChanges) 
     EXPECT_FALSE(g.controls.colorPicOn);
     picColor_Click(g, 1);
     EXPECT_EQ(settings(), "[MORVANE]\nHiColor=-1\n") << "two clicks leave the file as it was";
-    EXPECT_EQ(ports.messages,
+    EXPECT_EQ(screen.messages,
               (std::vector<std::string>{"色数を256色に変更します。次回起動から有効です。",
                                         "色数をTrue Colorに変更します。次回起動から有効です。"}));
     picColor_Click(g, 1); // no change
     g.controls.mainWindowVisible = false;
     picColor_Click(g, 0); // window hidden
-    EXPECT_EQ(ports.messages.size(), 2u);
+    EXPECT_EQ(screen.messages.size(), 2u);
     EXPECT_EQ(g.hiColorPending, 0);
     EXPECT_EQ(g.hiColor, -1) << "the pictures of this run don't change";
 }

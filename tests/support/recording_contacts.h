@@ -3,6 +3,8 @@
 
 #include "table/contact_observer.h"
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
 namespace morvane::testing {
@@ -22,5 +24,12 @@ struct RecordingContacts : ContactObserver {
         seen.push_back({time, ball, partner, pocket});
     }
 };
+
+// The frame saw one contact only: a ball taken by this pocket from this cushion.
+inline void expectOnlyCapture(const RecordingContacts& contacts, int cushion, int pocket) {
+    ASSERT_EQ(contacts.seen.size(), 1u);
+    EXPECT_EQ(contacts.seen[0].partner, cushion);
+    EXPECT_EQ(contacts.seen[0].pocket, pocket);
+}
 
 } // namespace morvane::testing

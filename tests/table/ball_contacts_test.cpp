@@ -1,6 +1,6 @@
+#include "support/balls.h"
 #include "table/contacts.h"
 #include "table/motion.h"
-#include "table_fixtures.h"
 
 #include <gtest/gtest.h>
 

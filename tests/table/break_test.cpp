@@ -1,7 +1,7 @@
+#include "support/balls.h"
 #include "table/contacts.h"
 #include "table/motion.h"
 #include "table/rack.h"
-#include "table_fixtures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
+#include "support/balls.h"
+#include "support/recording_contacts.h"
 #include "table/cushions.h"
 #include "table/motion.h"
-#include "table_fixtures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
+#include "support/balls.h"
 #include "table/launch.h"
-#include "table_fixtures.h"
 
 #include <gtest/gtest.h>
 

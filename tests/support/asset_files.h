@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace morvane::test {
+namespace morvane::testing {
 
 inline std::string runtimePath(const std::string& name) {
     return std::string(MORVANE_RUNTIME_DIR) + "/" + name;
@@ -34,4 +34,4 @@ inline std::string tag(const std::vector<uint8_t>& b, size_t at, size_t n) {
     return std::string(b.begin() + static_cast<long>(at), b.begin() + static_cast<long>(at + n));
 }
 
-} // namespace morvane::test
+} // namespace morvane::testing

@@ -1,10 +1,7 @@
 // Small tables of balls for the motion engine.
 #pragma once
 
-#include "support/recording_contacts.h"
 #include "table/ball.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -16,13 +13,6 @@ inline BallArray emptyTable() {
     for (BallType& b : balls)
         b.onTable = false;
     return balls;
-}
-
-// The frame saw one contact only: this ball taken by this pocket from this cushion.
-inline void expectOnlyCapture(const RecordingContacts& contacts, int cushion, int pocket) {
-    ASSERT_EQ(contacts.seen.size(), 1u);
-    EXPECT_EQ(contacts.seen[0].partner, cushion);
-    EXPECT_EQ(contacts.seen[0].pocket, pocket);
 }
 
 // Ball n on the table at (x, y), rolling at speed in direction angle, with no spin.

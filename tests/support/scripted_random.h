@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace morvane::cputest {
+namespace morvane::testing {
 
 class ScriptedRandom : public RandomPort {
   public:
@@ -24,4 +24,4 @@ class ScriptedRandom : public RandomPort {
     std::vector<double> values_;
 };
 
-} // namespace morvane::cputest
+} // namespace morvane::testing
