@@ -11,14 +11,13 @@
 #
 #   bash scripts/journey.sh [path/to/morvane]
 #
-# MORVANE_JOURNEY_X_DISPLAY (default 17) chooses the display number; MORVANE_JOURNEY_TIMEOUT
-# (default 30) is the longest any one wait may take, in seconds. MORVANE_JOURNEY_OUT names a
+# MORVANE_JOURNEY_X_DISPLAY (default the first free display from 17) chooses the display number;
+# MORVANE_JOURNEY_TIMEOUT (default 30) is the longest any one wait may take, in seconds. MORVANE_JOURNEY_OUT names a
 # folder in which the screenshots, the logs and the game's home are left, rather than thrown away.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 game=${1:-$PWD/build/bin/morvane}
-x_display=:${MORVANE_JOURNEY_X_DISPLAY:-17}
 limit=${MORVANE_JOURNEY_TIMEOUT:-30}
 name=Zed
 
@@ -33,6 +32,7 @@ wm_pid=
 game_pid=
 step=start
 source scripts/window-checks.sh
+x_display=$(choose_x_display "${MORVANE_JOURNEY_X_DISPLAY:-}" 17)
 
 cleanup() {
     end_process "$game_pid"

@@ -9,15 +9,14 @@
 #
 #   bash scripts/smoke-platforms.sh [path/to/morvane]
 #
-# MORVANE_SMOKE_X_DISPLAY (default 16) and MORVANE_SMOKE_WAYLAND_SOCKET choose the display
-# number and the socket name; MORVANE_SMOKE_TIMEOUT (default 30) is the longest any one wait may
+# MORVANE_SMOKE_X_DISPLAY (default the first free display from 16) and
+# MORVANE_SMOKE_WAYLAND_SOCKET choose the display number and the socket name; MORVANE_SMOKE_TIMEOUT (default 30) is the longest any one wait may
 # take, in seconds. MORVANE_SMOKE_OUT names a folder in which the screenshots (x11.png,
 # wayland.png), the logs and the game's home are left, rather than thrown away.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 game=${1:-$PWD/build/bin/morvane}
-x_display=:${MORVANE_SMOKE_X_DISPLAY:-16}
 wayland_socket=${MORVANE_SMOKE_WAYLAND_SOCKET:-morvane-test-16}
 limit=${MORVANE_SMOKE_TIMEOUT:-30}
 
@@ -30,6 +29,7 @@ fi
 server_pid=
 game_pid=
 source scripts/window-checks.sh
+x_display=$(choose_x_display "${MORVANE_SMOKE_X_DISPLAY:-}" 16)
 
 cleanup() {
     end_process "$game_pid"

@@ -3,6 +3,23 @@
 # screenshots. The sourcing script defines `fail`, `limit` (seconds), `work`, and sets `game_pid`
 # and `window` once it has them.
 
+# The display to start Xvfb on: the one asked for by number, or else the first free one from
+# `first` up, so that two runs side by side don't meet on one display.
+choose_x_display() {
+    local asked=$1 first=$2 n
+    if [ -n "$asked" ]; then
+        echo ":$asked"
+        return
+    fi
+    for ((n = first; n < first + 100; n++)); do
+        if [ ! -e "/tmp/.X11-unix/X$n" ] && [ ! -e "/tmp/.X$n-lock" ]; then
+            echo ":$n"
+            return
+        fi
+    done
+    echo ":$first"
+}
+
 # Ends one process we started: politely, then for certain.
 end_process() {
     local pid=$1
