@@ -44,9 +44,7 @@ trap cleanup EXIT
 
 fail() {
     echo "journey: FAILED at $step: $*" >&2
-    for log in "$work"/*.log; do
-        [ -s "$log" ] && { echo "--- $log" >&2; tail -n 20 "$log" >&2; }
-    done
+    show_logs
     exit 1
 }
 

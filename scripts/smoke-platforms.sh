@@ -40,9 +40,7 @@ trap cleanup EXIT
 
 fail() {
     echo "FAIL ($platform): $*" >&2
-    for log in "$work"/*.log; do
-        [ -s "$log" ] && { echo "--- $log" >&2; tail -n 20 "$log" >&2; }
-    done
+    show_logs
     exit 1
 }
 

@@ -20,6 +20,14 @@ choose_x_display() {
     echo ":$first"
 }
 
+# The end of every log of the run, on stderr, for a failure to be read from.
+show_logs() {
+    for log in "$work"/*.log; do
+        [ -s "$log" ] && { echo "--- $log" >&2; tail -n 20 "$log" >&2; }
+    done
+    return 0
+}
+
 # Ends one process we started: politely, then for certain.
 end_process() {
     local pid=$1
