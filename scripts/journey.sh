@@ -124,18 +124,20 @@ close_foul_message() {
     return 1
 }
 
+# A break may sink the nine too, and end the game at once.
+game_over() { [ -n "$(record_form)" ]; }
+
 step=break
 wait_for "SHOT! ready for the break" shot_ready
 grab "$work/rack.png" "$table"
 click_at 272 349
 wait_for "the balls rolling after the break" balls_rolling
-break_over() { close_foul_message && shot_ready; }
+break_over() { game_over || { close_foul_message && shot_ready; }; }
 wait_for "the balls to stop after the break" break_over
 echo "journey: the break was played"
 
 # Once the break is at rest only the nine and the cue ball stay, aimed at the top middle pocket.
 step="the last shot"
-game_over() { [ -n "$(record_form)" ]; }
 nine_shot_or_over() { game_over || { close_foul_message && shot_ready; }; }
 for shot_number in 1 2 3 4 5; do
     game_over && break
