@@ -55,7 +55,9 @@ if [ -e "/tmp/.X11-unix/X${x_display#:}" ] || [ -e "/tmp/.X${x_display#:}-lock" 
 fi
 mkdir -m 700 "$work/run"
 mkdir -p "$work/home" "$work/config"
-Xvfb "$x_display" -screen 0 1024x768x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+# -noreset: the server would start over each time its last client left, and refuse whoever
+# connected just then (the window manager after the readiness probe, say).
+Xvfb "$x_display" -screen 0 1024x768x24 -nolisten tcp -noreset >"$work/xvfb.log" 2>&1 &
 server_pid=$!
 export DISPLAY=$x_display QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work/run
 unset WAYLAND_DISPLAY

@@ -70,7 +70,9 @@ platform=x11
 if [ -e "/tmp/.X11-unix/X${x_display#:}" ] || [ -e "/tmp/.X${x_display#:}-lock" ]; then
     fail "display $x_display is taken; choose another with MORVANE_SMOKE_X_DISPLAY"
 fi
-Xvfb "$x_display" -screen 0 1024x768x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+# -noreset: the server would start over each time its last client left, and refuse whoever
+# connected just then (the window manager after the readiness probe, say).
+Xvfb "$x_display" -screen 0 1024x768x24 -nolisten tcp -noreset >"$work/xvfb.log" 2>&1 &
 server_pid=$!
 export DISPLAY=$x_display
 unset WAYLAND_DISPLAY
