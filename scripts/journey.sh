@@ -21,12 +21,17 @@ game=${1:-$PWD/build/bin/morvane}
 limit=${MORVANE_JOURNEY_TIMEOUT:-30}
 name=Zed
 
+work=${MORVANE_JOURNEY_OUT:-}
+if [ -n "$work" ]; then
+    rm -rf "$work" && mkdir -p "$work"
+else
+    work=$(mktemp -d)
+fi
 server_pid=
 wm_pid=
 game_pid=
 step=start
 source scripts/window-checks.sh
-work=$(work_folder "${MORVANE_JOURNEY_OUT:-}")
 x_display=$(choose_x_display "${MORVANE_JOURNEY_X_DISPLAY:-}" 17)
 
 cleanup() {

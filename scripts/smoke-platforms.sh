@@ -20,10 +20,15 @@ game=${1:-$PWD/build/bin/morvane}
 wayland_socket=${MORVANE_SMOKE_WAYLAND_SOCKET:-morvane-test-16}
 limit=${MORVANE_SMOKE_TIMEOUT:-30}
 
+work=${MORVANE_SMOKE_OUT:-}
+if [ -n "$work" ]; then
+    rm -rf "$work" && mkdir -p "$work"
+else
+    work=$(mktemp -d)
+fi
 server_pid=
 game_pid=
 source scripts/window-checks.sh
-work=$(work_folder "${MORVANE_SMOKE_OUT:-}")
 x_display=$(choose_x_display "${MORVANE_SMOKE_X_DISPLAY:-}" 16)
 
 cleanup() {

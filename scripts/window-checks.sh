@@ -3,16 +3,6 @@
 # screenshots. The sourcing script defines `fail`, `limit` (seconds), `work`, and sets `game_pid`
 # and `window` once it has them.
 
-# The folder for a run's screenshots, logs and the game's home: the one asked for, emptied, or
-# else a new temporary one.
-work_folder() {
-    if [ -n "$1" ]; then
-        rm -rf "$1" && mkdir -p "$1" && echo "$1"
-    else
-        mktemp -d
-    fi
-}
-
 # The display to start Xvfb on: the one asked for by number, or else the first free one from
 # `first` up, so that two runs side by side don't meet on one display.
 choose_x_display() {
