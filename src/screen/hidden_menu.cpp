@@ -47,6 +47,8 @@ std::array<QMenu*, 4> HiddenMenu::tree() {
 
 // While the pop-up is open it takes every press; one outside it closes it.
 bool HiddenMenu::eventFilter(QObject*, QEvent* event) {
+    if (isRightDoubleClick(event))
+        return true;
     if (event->type() != QEvent::MouseButtonPress)
         return false;
     const auto* press = static_cast<QMouseEvent*>(event);
@@ -54,6 +56,14 @@ bool HiddenMenu::eventFilter(QObject*, QEvent* event) {
     if (press->button() == Qt::RightButton && !anyMenuContains(at))
         QTimer::singleShot(0, this, [this, at] { rightClickAgainAt(at); });
     return false;
+}
+
+// A right click soon after the one before (the pop-up closed with Escape, then a right click
+// again) comes as a press and then a double click. The press opened the pop-up; the double click
+// would reach the fresh pop-up as a second press, outside it, and close it at once.
+bool HiddenMenu::isRightDoubleClick(const QEvent* event) {
+    return event->type() == QEvent::MouseButtonDblClick &&
+           static_cast<const QMouseEvent*>(event)->button() == Qt::RightButton;
 }
 
 bool HiddenMenu::anyMenuContains(QPoint globalPos) {

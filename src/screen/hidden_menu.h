@@ -45,6 +45,7 @@ class HiddenMenu : public QObject {
     // The pop-up and its three submenus.
     std::array<QMenu*, 4> tree();
     bool anyMenuContains(QPoint globalPos);
+    static bool isRightDoubleClick(const QEvent* event);
     // The right click that closed the pop-up, as the window's own right click there.
     void rightClickAgainAt(QPoint globalPos);
 

@@ -261,6 +261,30 @@ TEST_F(ShellTest, EveryRightClickOffTheTableOpensTheGamesMenuWhereItFell) {
     EXPECT_FALSE(rightClickAt(QPoint(270, 150))) << "on the table the right button aims";
 }
 
+// A person closes the pop-up with Escape and at once right-clicks the same spot again: the
+// second press comes within the double-click time of the first, and the pop-up it opens must
+// stay open, not read the double click as a press outside itself.
+TEST_F(ShellTest, ThePopUpReopensAtOnceAfterEscape) {
+    QWindow* screenWindow = window->windowHandle();
+    QMenu* popup = window->hiddenMenu()->popup();
+    const QPoint at(300, 250);
+    const QPointF global = screenWindow->mapToGlobal(QPointF(at));
+    int time = 100000;
+    const auto rightClick = [&] {
+        qt_handleMouseEvent(screenWindow, at, global, Qt::RightButton, Qt::RightButton,
+                            QEvent::MouseButtonPress, {}, time += 40);
+        qt_handleMouseEvent(screenWindow, at, global, Qt::NoButton, Qt::RightButton,
+                            QEvent::MouseButtonRelease, {}, time += 40);
+        QCoreApplication::processEvents();
+    };
+    for (int attempt = 1; attempt <= 3; ++attempt) {
+        rightClick();
+        ASSERT_TRUE(popup->isVisible()) << "right click " << attempt;
+        QTest::keyClick(popup, Qt::Key_Escape);
+        ASSERT_FALSE(popup->isVisible());
+    }
+}
+
 TEST_F(ShellTest, F2StartsAGameAndF1OpensTheHelpThoughNoMenuShows) {
     window->activateWindow();
     QTest::keyClick(window.get(), Qt::Key_F1);
