@@ -104,8 +104,15 @@ void QtScreen::openHelp() {
 }
 
 void QtScreen::showHelpWindow(const QString& page) {
-    if (!helpWindow_)
+    if (!helpWindow_) {
         helpWindow_ = new HelpWindow(page, g_.isJapanese);
+        // Over the game, where a person is looking, on a desktop that would leave it in a corner.
+        if (widgets_.mainWindow) {
+            QRect over = helpWindow_->geometry();
+            over.moveCenter(widgets_.mainWindow->geometry().center());
+            helpWindow_->setGeometry(over);
+        }
+    }
     helpWindow_->show();
     helpWindow_->raise();
     helpWindow_->activateWindow();

@@ -43,6 +43,7 @@ TEST_F(HelpPageTest, TheGamesOwnWindowShowsThePageOnlyWhereTheDesktopCannot) {
     ASSERT_NE(nullptr, shown);
     EXPECT_TRUE(shown->isVisible());
     EXPECT_EQ(QStringLiteral("MORVANE Help"), shown->windowTitle());
+    EXPECT_EQ(window->geometry().center(), shown->geometry().center()) << "over the game";
     screen->openHelp();
     EXPECT_EQ(shown, screen->helpWindow()) << "one window, brought forward again";
 
