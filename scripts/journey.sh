@@ -12,8 +12,9 @@
 #   bash scripts/journey.sh [path/to/morvane]
 #
 # MORVANE_JOURNEY_X_DISPLAY (default the first free display from 17) chooses the display number;
-# MORVANE_JOURNEY_TIMEOUT (default 30) is the longest any one wait may take, in seconds. MORVANE_JOURNEY_OUT names a
-# folder in which the screenshots, the logs and the game's home are left, rather than thrown away.
+# MORVANE_JOURNEY_TIMEOUT (default 30) is the longest any one wait may take, in seconds;
+# MORVANE_JOURNEY_OUT names a folder in which the screenshots, the logs and the game's home are
+# left, rather than thrown away; MORVANE_JOURNEY_WM=none makes the journey on a bare X server.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -63,10 +64,12 @@ export DISPLAY=$x_display QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work/run
 unset WAYLAND_DISPLAY
 x_server_ready() { kill -0 "$server_pid" 2>/dev/null && xdotool getdisplaygeometry >/dev/null 2>&1; }
 wait_for "X server on $x_display" x_server_ready
-XDG_CONFIG_HOME=$work/config openbox --sm-disable >"$work/openbox.log" 2>&1 &
-wm_pid=$!
-wm_running() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
-wait_for "openbox" wm_running
+if [ "${MORVANE_JOURNEY_WM:-openbox}" != none ]; then
+    XDG_CONFIG_HOME=$work/config openbox --sm-disable >"$work/openbox.log" 2>&1 &
+    wm_pid=$!
+    wm_running() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+    wait_for "openbox" wm_running
+fi
 
 step=splash
 MORVANE_HOME=$work/home MORVANE_NEARLY_CLEARED=1 SDL_AUDIODRIVER=dummy \

@@ -28,4 +28,6 @@ echo "== The real window under X11 (Xvfb) and Wayland (headless Weston) =="
 bash scripts/smoke-platforms.sh || status=1
 echo "== A player's journey through the real window (Xvfb, openbox, xdotool) =="
 bash scripts/journey.sh || status=1
+echo "== The same journey on a bare X server, with no window manager =="
+MORVANE_JOURNEY_WM=none bash scripts/journey.sh || status=1
 exit $status
