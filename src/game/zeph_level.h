@@ -7,5 +7,7 @@ namespace morvane {
 
 constexpr int16_t kZephLevelMin = 1;
 constexpr int16_t kZephLevelMax = 11;
+// At his top level zeph is a Master: the captions name him so, not by a number.
+constexpr int16_t kZephMasterLevel = kZephLevelMax;
 
 } // namespace morvane

@@ -1,5 +1,6 @@
 #include "records/score_text.h"
 
+#include "game/zeph_level.h"
 #include "records/record_constants.h"
 
 #include <cstdio>
@@ -13,7 +14,6 @@ constexpr int kFirstRowOffset = 10;
 constexpr int kGapBetweenTables = 30;
 constexpr int kTitleDrop = 2;
 constexpr int kSecondsAMinute = 60;
-constexpr int16_t kMasterLevel = 11;
 
 // Columns of the solo table.
 constexpr int kNumberX = 10;
@@ -32,7 +32,7 @@ std::string counted(long count, const char* one, const char* many) {
 }
 
 std::string levelText(int16_t level) {
-    return level >= kMasterLevel ? "Master!" : "Level " + twoPlaces(level);
+    return level >= kZephMasterLevel ? "Master!" : "Level " + twoPlaces(level);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "game/table_queries.h"
 #include "game/text.h"
+#include "game/zeph_level.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
 
@@ -23,7 +24,6 @@ constexpr int kTwoPlayersIconX = 270;
 constexpr int kNextBoxLeft = 289;
 constexpr int kNextBoxRight = 310;
 constexpr int kNextBoxBottom = 22;
-constexpr int kMasterLevel = 11;
 
 std::string number(long value) {
     return std::to_string(value);
@@ -40,7 +40,7 @@ std::string versusLine(const GameState& g) {
     if (!g.versusCpu)
         return score + "  " + trimBlanks(g.players[1].name);
     const std::string level =
-        g.zephLevel >= kMasterLevel ? " Master " : " Lv." + number(g.zephLevel);
+        g.zephLevel >= kZephMasterLevel ? " Master " : " Lv." + number(g.zephLevel);
     return score + level + " zeph ";
 }
 

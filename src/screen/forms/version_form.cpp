@@ -3,6 +3,7 @@
 #include "game/version.h"
 
 #include "game/text.h"
+#include "game/zeph_level.h"
 #include "picture_names.h"
 #include "screen/blit.h"
 #include "screen/fonts.h"
@@ -21,7 +22,6 @@ constexpr double kVersionPoints = 13.5;
 constexpr double kCreditPoints = 9.75;
 constexpr double kOkPoints = 9.75;
 constexpr double kHeightAboveForm = 0.4;
-constexpr int16_t kHighestLevelShown = 10;
 constexpr int kBlinkFrames = 5;
 constexpr int kBlinkLength = 4 * kBlinkFrames;
 inline constexpr const char* kCreditLine = "Nine-ball pool, written anew for Linux";
@@ -29,7 +29,7 @@ inline constexpr const char* kCreditLine = "Nine-ball pool, written anew for Lin
 } // namespace
 
 std::string versionCaption(int16_t zephLevel) {
-    const std::string level = zephLevel > kHighestLevelShown
+    const std::string level = zephLevel >= kZephMasterLevel
                                   ? " zeph is a Master!"
                                   : " zeph's Level is" + signedNumberText(zephLevel) + ".";
     return std::string(" Ver.") + kVersion + "\n" + level;
