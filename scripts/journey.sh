@@ -22,26 +22,9 @@ game=${1:-$PWD/build/bin/morvane}
 limit=${MORVANE_JOURNEY_TIMEOUT:-30}
 name=Zed
 
-work=${MORVANE_JOURNEY_OUT:-}
-if [ -n "$work" ]; then
-    rm -rf "$work" && mkdir -p "$work"
-else
-    work=$(mktemp -d)
-fi
-server_pid=
-wm_pid=
-game_pid=
 step=start
 source scripts/window-checks.sh
-x_display=$(choose_x_display "${MORVANE_JOURNEY_X_DISPLAY:-}" 17)
-
-cleanup() {
-    end_process "$game_pid"
-    end_process "$wm_pid"
-    end_process "$server_pid"
-    [ -n "${MORVANE_JOURNEY_OUT:-}" ] || rm -rf "$work"
-}
-trap cleanup EXIT
+begin_run "${MORVANE_JOURNEY_OUT:-}" "${MORVANE_JOURNEY_X_DISPLAY:-}" 17
 
 fail() {
     echo "journey: FAILED at $step: $*" >&2

@@ -20,23 +20,8 @@ game=${1:-$PWD/build/bin/morvane}
 wayland_socket=${MORVANE_SMOKE_WAYLAND_SOCKET:-morvane-test-16}
 limit=${MORVANE_SMOKE_TIMEOUT:-30}
 
-work=${MORVANE_SMOKE_OUT:-}
-if [ -n "$work" ]; then
-    rm -rf "$work" && mkdir -p "$work"
-else
-    work=$(mktemp -d)
-fi
-server_pid=
-game_pid=
 source scripts/window-checks.sh
-x_display=$(choose_x_display "${MORVANE_SMOKE_X_DISPLAY:-}" 16)
-
-cleanup() {
-    end_process "$game_pid"
-    end_process "$server_pid"
-    [ -n "${MORVANE_SMOKE_OUT:-}" ] || rm -rf "$work"
-}
-trap cleanup EXIT
+begin_run "${MORVANE_SMOKE_OUT:-}" "${MORVANE_SMOKE_X_DISPLAY:-}" 16
 
 fail() {
     echo "FAIL ($platform): $*" >&2

@@ -1,7 +1,21 @@
 # Shared by the scripts that drive the real window under X (smoke-platforms.sh, journey.sh):
 # ending what they started, polling with a time limit, and reading the game's screens from
-# screenshots. The sourcing script defines `fail`, `limit` (seconds), `work`, and sets `game_pid`
-# and `window` once it has them.
+# screenshots. The sourcing script defines `fail` and `limit` (seconds), calls begin_run,
+# and sets `game_pid` and `window` once it has them.
+
+# The folder of the run's screenshots, logs and home: the one asked for, emptied first and kept
+# after the run, or else a new one, thrown away at the end. Sets `work`, and `shot`, the picture
+# of the window taken most often.
+make_work_folder() {
+    work=$1
+    keep_work=$1
+    if [ -n "$work" ]; then
+        rm -rf "$work" && mkdir -p "$work"
+    else
+        work=$(mktemp -d)
+    fi
+    shot=$work/window.png
+}
 
 # The display to start Xvfb on: the one asked for by number, or else the first free one from
 # `first` up, so that two runs side by side don't meet on one display.
@@ -39,6 +53,25 @@ end_process() {
     done
     kill -9 "$pid" 2>/dev/null || true
     wait "$pid" 2>/dev/null || true
+}
+
+# The start of a run: nothing started yet, the run's folder, a free display, and end_run on exit.
+begin_run() { # folder to keep or "", display asked for or "", first display to try
+    server_pid=
+    wm_pid=
+    game_pid=
+    make_work_folder "$1"
+    x_display=$(choose_x_display "$2" "$3")
+    trap end_run EXIT
+}
+
+# At the end of the run, whichever way it ends: the game, the window manager and the server go,
+# and the folder of the run unless it was asked to be kept.
+end_run() {
+    end_process "$game_pid"
+    end_process "$wm_pid"
+    end_process "$server_pid"
+    [ -n "$keep_work" ] || rm -rf "$work"
 }
 
 # Polls a command every tenth of a second until it succeeds; fails after `limit` seconds, or at
@@ -85,7 +118,6 @@ splash_shown() {
 }
 
 # Pictures of the window, whole or a part WxH+X+Y of it, in the window's own pixels.
-shot=$work/window.png
 grab() { import -window "$window" ${2:+-crop "$2" +repage} "$1" 2>/dev/null; }
 menu_on_screen() { grab "$shot" && menu_drawn "$shot"; }
 
