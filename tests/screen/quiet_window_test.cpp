@@ -129,5 +129,34 @@ TEST_F(QuietWindowTest, AMarkerMovedByAPixelIsDrawnThere) {
     EXPECT_EQ(kCloth, shown.pixel(300, 101) | 0xff000000);
 }
 
+TEST_F(QuietWindowTest, TheSwingDrawsItsMarkerAtMostOnceAFrame) {
+    window->show();
+    window->syncControlsFromState();
+    settle();
+    PaintCounter view(window->picPool());
+    setTimerEnabled(g, kTimer2, true);
+    const auto tick = [&](float top) {
+        g.nowMs += 10;
+        g.controls.target = {300, top, true};
+        window->syncControlsFromState();
+        settle();
+    };
+    for (int i = 0; i < 10; ++i)
+        tick(100.0f + 2 * float(i));
+    EXPECT_EQ(view.paints, 5) << "ten ticks of 10 ms, a frame every 16 ms or more";
+
+    // The mouse moves the cue ball between two frames: it shows at once.
+    view.paints = 0;
+    g.controls.qBall = {100, 100, true};
+    tick(130);
+    EXPECT_EQ(view.paints, 1);
+    // The shot stops the swing: its last place shows, though a frame hasn't passed.
+    view.paints = 0;
+    setTimerEnabled(g, kTimer2, false);
+    tick(140);
+    EXPECT_EQ(view.paints, 1);
+    window->hide();
+}
+
 } // namespace
 } // namespace morvane::testing
