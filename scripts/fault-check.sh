@@ -31,7 +31,9 @@ mkdir -p "$tree"
 # The scratch tree mirrors the files that git knows of, as they stand in the work tree; a file
 # that has left the work tree leaves the copy too, or the build would still glob it in.
 git ls-files --cached --others --exclude-standard | sort > "$scratch/files"
-rsync -a --files-from="$scratch/files" "$top"/ "$tree"/
+# Files are compared by content and a changed one is written with the time of the copy, not its
+# own: a checkout's older time would leave the build's objects of the earlier text standing.
+rsync -rl --checksum --files-from="$scratch/files" "$top"/ "$tree"/
 (cd "$tree" && find . -path ./build -prune -o -type f -printf '%P\n') | sort |
     comm -23 - "$scratch/files" | (cd "$tree" && xargs -r -d '\n' rm -f --)
 # Built as the test command builds, every warning an error: a fault the compiler warns of is
