@@ -14,7 +14,7 @@
 namespace morvane {
 
 struct PlayerType {
-    std::string name;     // up to 12 characters, compared and shown trimmed
+    std::string name;      // up to 12 characters, compared and shown trimmed
     bool hasBreak = false; // this player shoots on even turns
     int16_t gamesWon = 0;
 };
@@ -117,8 +117,8 @@ struct ControlsState {
     std::string mnuChangeModeCaption;
 
     // Layers and labels.
-    bool menuVisible = false;  // picMenu
-    bool scoreVisible = false; // picScore
+    bool menuVisible = false;                                // picMenu
+    bool scoreVisible = false;                               // picScore
     std::array<bool, 3> lblMenuVisible{false, false, false}; // "Menu", "Start", "Back"
     std::array<bool, 3> lblMenuHover{false, false, false};
     bool lblHelpHover = false;
@@ -129,6 +129,7 @@ struct ControlsState {
 
     std::string windowCaption;
     bool mainWindowVisible = false;
+    bool mainWindowMinimised = false; // down in the task bar, nothing of it on the screen
 
     bool operator==(const ControlsState&) const = default;
 };

@@ -256,6 +256,12 @@ void MainWindow::hideEvent(QHideEvent*) {
     g_.controls.mainWindowVisible = false;
 }
 
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange)
+        g_.controls.mainWindowMinimised = isMinimized();
+    QWidget::changeEvent(event);
+}
+
 void MainWindow::mouseMoveEvent(QMouseEvent*) {
     handle([](GameState& g) { Form_MouseMove(g); });
 }

@@ -20,9 +20,10 @@ constexpr int32_t kTimTimeCounterInterval = 1000;
 constexpr int32_t kTimBgmInterval = 500;
 
 // The break swing moves nothing but the aim marker on the table; while the menu or the record
-// screen covers the table nobody could see it, and it rests.
+// screen covers the table, or the window is minimised, nobody could see it, and it rests.
 bool restsUnseen(const GameState& g, TimerId id) {
-    return id == kTimer2 && (g.controls.menuVisible || g.controls.scoreVisible);
+    const ControlsState& c = g.controls;
+    return id == kTimer2 && (c.menuVisible || c.scoreVisible || c.mainWindowMinimised);
 }
 
 bool mayFire(const GameState& g, TimerId id) {

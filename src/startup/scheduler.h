@@ -3,8 +3,9 @@
 //
 // A timer fires at most once per due time, late ticks are not made up, and a timer never fires
 // while its own handler is still running (a modal form shown by a handler lets the others tick).
-// The break swing rests while the menu or the record screen covers the table: it neither fires
-// nor counts as due, and comes back with its phase carried on by the ticks it missed.
+// The break swing rests while the menu or the record screen covers the table, or the window is
+// minimised: it neither fires nor counts as due, and comes back with its phase carried on by the
+// ticks it missed.
 #pragma once
 
 #include "game/game_state.h"

@@ -92,6 +92,19 @@ TEST_F(QuietWindowTest, UnderTheMenuTheRestingSwingWakesNobody) {
     EXPECT_LE(wakeWhenIdle(driver, [&] { g.controls.menuVisible = false; }), 10);
 }
 
+TEST_F(QuietWindowTest, MinimisedTheSwingWakesNobody) {
+    setTimerEnabled(g, kTimDemo, true);
+    setTimerEnabled(g, kTimer2, true);
+    window->show();
+    TimerDriver driver(g, nullptr, nullptr);
+    driver.start();
+    window->showMinimized();
+    EXPECT_GT(wakeWhenIdle(driver), 900);
+    // Brought back from the task bar, the table swings again at once.
+    EXPECT_LE(wakeWhenIdle(driver, [&] { window->showNormal(); }), 10);
+    window->hide();
+}
+
 TEST_F(QuietWindowTest, NothingChangedRepaintsNothing) {
     window->show();
     g.controls.target = {300, 100, true};

@@ -94,10 +94,11 @@ TEST(BreakSwingRest, ShownTableSwingsEveryTenMilliseconds) {
     EXPECT_EQ(nextDueTime(shown.g), 1010);
 }
 
-TEST(BreakSwingRest, UnderTheMenuOrTheRecordScreenTheSwingNeitherFiresNorWakesAnyone) {
-    for (bool menu : {true, false}) {
-        Swing rest(menu);
-        rest.g.controls.scoreVisible = !menu;
+TEST(BreakSwingRest, UnderTheMenuTheRecordScreenOrMinimisedTheSwingNeitherFiresNorWakesAnyone) {
+    for (int cover = 0; cover < 3; ++cover) {
+        Swing rest(cover == 0);
+        rest.g.controls.scoreVisible = cover == 1;
+        rest.g.controls.mainWindowMinimised = cover == 2;
         const float aimX = rest.g.aimX;
         EXPECT_EQ(nextDueTime(rest.g), 1000); // the idle count is the only timer due
         advanceVirtualTime(rest.g, 5000);
