@@ -23,25 +23,17 @@ class Modes : public RulesTest {
         setTable(g, {{0, 600, 600}, {1, 2000, 1000}, {9, 1200, 300}});
         shootToRest(100, 600, 35);
     }
-
-    // Ball 1 dead on into the top right corner.
-    void potBallOne() {
-        setTable(g, {{0, 1850, 650}, {1, 2150, 950}, {9, 1200, 300}});
-        shootToRest(2150, 950);
-    }
 };
 
-TEST_F(Modes, SoloPlayHidesTheMenuAndShowsAllThreeLabels) {
+TEST_F(Modes, ThePlayButtonsHideTheMenuAndShowTheLabelsOfTheirMode) {
     picSoloPlay_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeSolo);
     EXPECT_FALSE(g.controls.menuVisible);
     EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, true, true}));
     EXPECT_EQ(g.controls.shotCaption, "Shot!");
-    EXPECT_EQ(g.controls.shotFont.size, 18.75f);
     EXPECT_EQ(g.bgmScene, 2);
-}
 
-TEST_F(Modes, AMatchAgainstZephOffersThreeGamesAndShowsOnlyTheMenuLabel) {
+    backToMenu(g);
     g.matchTarget = 7;
     picVSCPU_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeVersus);
@@ -51,6 +43,11 @@ TEST_F(Modes, AMatchAgainstZephOffersThreeGamesAndShowsOnlyTheMenuLabel) {
     EXPECT_FALSE(g.controls.mnuStartEnabled);
     EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, false, false}));
     EXPECT_EQ(g.bgmScene, 3);
+
+    mnuChangeMode_Click(g); // and back to a solo game
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_TRUE(g.controls.mnuStartEnabled);
+    EXPECT_EQ(g.controls.shotCaption, "SHOT!");
 }
 
 TEST_F(Modes, CancelOnTheSetUpFormLandsOnTheMenu) {
@@ -71,22 +68,14 @@ TEST_F(Modes, TheMenuLabelLeavesAGameForTheMenuAndItsMusic) {
     EXPECT_EQ(g.bgmScenePrevious, 2);
 }
 
-TEST_F(Modes, ChangeModeSwitchesAMatchBackToASoloGame) {
-    picVSCPU_Click(g, 0);
-    mnuChangeMode_Click(g);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(g.controls.mnuStartEnabled);
-    EXPECT_EQ(g.controls.shotCaption, "SHOT!");
-    EXPECT_EQ(g.controls.mnuChangeModeCaption, "独り撞き→対戦(&M)");
-}
-
-TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
+TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndStartKeepsCounting) {
+    mnuStart_click(g); // Start from the menu keeps the menu mode, so the count goes on
+    EXPECT_FALSE(g.controls.menuVisible);
     for (int second = 1; second <= 30; ++second)
         timDemo_Timer(g);
     EXPECT_EQ(g.gameMode, kModeMenu);
     timDemo_Timer(g);
     EXPECT_EQ(g.gameMode, kModeDemo);
-    EXPECT_FALSE(g.controls.menuVisible);
     EXPECT_EQ(g.controls.shotCaption, "DEMO");
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
     EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{false, false, false}));
@@ -94,7 +83,13 @@ TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
     EXPECT_EQ(g.demoCounter, 0);
 }
 
-TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRoll) {
+TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRollButNotASoloGame) {
+    picSoloPlay_Click(g, 0);
+    setTimerEnabled(g, kTimer1, true);
+    picPool_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
+
     startDemo(g);
     setTimerEnabled(g, kTimer1, true);
     picPool_Click(g, 0);
@@ -104,51 +99,30 @@ TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRoll) {
     EXPECT_TRUE(g.breakPending);
 }
 
-TEST_F(Modes, AClickOnTheTableDoesNothingInSoloPlay) {
-    picSoloPlay_Click(g, 0);
-    setTimerEnabled(g, kTimer1, true);
-    picPool_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
-}
-
-TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnew) {
+TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnewButAMatchGoesOn) {
     startDemo(g);
     g.breakPending = false;
     for (int shot = 1; shot <= 29; ++shot)
         missEverything();
-    potBallOne();
+    setTable(g, {{0, 1850, 650}, {1, 2150, 950}, {9, 1200, 300}}); // ball 1 into a corner
+    shootToRest(2150, 950);
     ASSERT_FALSE(g.Balls[1].onTable);
     for (int shot = 1; shot <= 29; ++shot)
         missEverything();
     EXPECT_FALSE(g.breakPending);
-    EXPECT_EQ(g.shotCount, 59);
-
     missEverything();
     EXPECT_TRUE(g.breakPending) << "racked anew";
     EXPECT_EQ(g.shotCount, 0);
-    EXPECT_TRUE(g.Balls[5].onTable);
     EXPECT_EQ(g.gameMode, kModeDemo);
     EXPECT_TRUE(isTimerEnabled(g, kTimCom)) << "zeph breaks the new rack";
-}
 
-TEST_F(Modes, AMatchKeepsTheRulesHoweverLongNothingFalls) {
     g.gameMode = kModeVersus;
     g.versusCpu = false;
     g.breakPending = false;
     for (int shot = 1; shot <= 40; ++shot)
         missEverything();
     EXPECT_FALSE(g.breakPending);
-    EXPECT_EQ(g.shotCount, 40);
     EXPECT_EQ(g.foulCount, 40);
-}
-
-TEST_F(Modes, StartFromTheMenuKeepsTheMenuModeSoTheDemoCountGoesOn) {
-    mnuStart_click(g);
-    EXPECT_FALSE(g.controls.menuVisible);
-    EXPECT_EQ(g.gameMode, kModeMenu);
-    timDemo_Timer(g);
-    EXPECT_EQ(g.demoCounter, 1);
 }
 
 } // namespace
