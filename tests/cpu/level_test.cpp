@@ -6,35 +6,30 @@
 
 using namespace morvane;
 
-namespace {
-
-constexpr bool kHuman = true;
-constexpr bool kZeph = false;
-
-// Plays the matches from the given level with no progress, and gives the level and progress.
-std::pair<int, int> afterMatches(int16_t level, const std::vector<bool>& humanWins) {
-    GameState g;
-    g.zephLevel = level;
-    for (bool humanWon : humanWins)
-        creditZephMatch(g, humanWon);
-    return {g.zephLevel, g.zephProgress};
-}
-
-} // namespace
-
 TEST(ZephGrowth, OnlyTwoHumanWinsInARowRaiseTheLevelUpToMaster) {
-    EXPECT_EQ(afterMatches(4, {kHuman}), std::make_pair(4, 1));
-    EXPECT_EQ(afterMatches(4, {kHuman, kHuman}), std::make_pair(5, 0));
-    EXPECT_EQ(afterMatches(4, {kHuman, kHuman, kZeph, kHuman}), std::make_pair(5, 1));
-    EXPECT_EQ(afterMatches(1, {kHuman, kZeph, kHuman, kZeph}), std::make_pair(1, 0));
-    EXPECT_EQ(afterMatches(10, {kHuman, kHuman, kHuman, kHuman}), std::make_pair(11, 0));
-    EXPECT_EQ(afterMatches(11, {kHuman, kHuman, kHuman}), std::make_pair(11, 1));
-}
-
-TEST(ZephGrowth, AProgressLeftHighInTheFileRaisesTheLevelAtTheNextHumanWin) {
-    GameState g;
-    g.zephProgress = 5;
-    creditZephMatch(g, kHuman);
-    EXPECT_EQ(g.zephLevel, 2);
-    EXPECT_EQ(g.zephProgress, 0);
+    struct Case {
+        int16_t level;
+        int16_t progress; // as the file left it
+        std::vector<bool> humanWins;
+        int16_t levelAfter;
+        int16_t progressAfter;
+    };
+    const Case cases[] = {
+        {4, 0, {true}, 4, 1},
+        {4, 0, {true, true}, 5, 0},
+        {4, 0, {true, true, false, true}, 5, 1},
+        {1, 0, {true, false, true, false}, 1, 0},
+        {10, 0, {true, true, true, true}, 11, 0},
+        {11, 0, {true, true, true}, 11, 1},
+        {1, 5, {true}, 2, 0},
+    };
+    for (const Case& c : cases) {
+        GameState g;
+        g.zephLevel = c.level;
+        g.zephProgress = c.progress;
+        for (bool humanWon : c.humanWins)
+            creditZephMatch(g, humanWon);
+        EXPECT_EQ(g.zephLevel, c.levelAfter) << "from level " << c.level;
+        EXPECT_EQ(g.zephProgress, c.progressAfter) << "from level " << c.level;
+    }
 }
