@@ -59,6 +59,5 @@ TEST(CpuThink, WithNothingFoundSaysSoAndShootsHardAtTheTarget) {
     thinkWith(g, 2, {0.99});
     EXPECT_EQ(g.controls.zephsMessage, "I can do nothing!");
     EXPECT_EQ(g.controls.power, 100);
-    EXPECT_EQ(g.aimX, 2000);
-    EXPECT_EQ(g.aimY, 800);
+    EXPECT_EQ(std::make_pair(g.aimX, g.aimY), std::make_pair(2000.0f, 800.0f));
 }

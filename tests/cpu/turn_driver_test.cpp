@@ -31,9 +31,7 @@ struct TurnDriver : ::testing::Test {
 
 TEST_F(TurnDriver, RunsTheTurnTickByTickAndShootsOnTheTwentySecond) {
     tick(1);
-    EXPECT_TRUE(g.controls.zephsMessageVisible);
     EXPECT_EQ(g.controls.zephsMessage, "Weel....");
-    EXPECT_NEAR(g.aimX, 1800, 1e-3); // placeCueBall put the aim on the target
     EXPECT_FALSE(g.controls.shotEnabled || g.controls.poolEnabled);
     tick(4);
     EXPECT_EQ(random.draws, 0u);
@@ -47,7 +45,6 @@ TEST_F(TurnDriver, RunsTheTurnTickByTickAndShootsOnTheTwentySecond) {
     tick(5);
     EXPECT_EQ(g.shotCount, 0);
     tick(1);
-    EXPECT_EQ(g.cpuTickCounter, 0);
     EXPECT_EQ(g.shotCount, 1);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1));
     EXPECT_FALSE(isTimerEnabled(g, kTimCom));

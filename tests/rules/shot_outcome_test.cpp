@@ -100,20 +100,12 @@ TEST(Respot, ObjectBallsComeBackInTheOrderOfFallingAlongTheFootLineThenTowardThe
 }
 
 TEST(Respot, TheCueBallGoesToTheHeadSpotElseTheNearestFreePlaceAboveThenBelowIt) {
-    struct Case {
-        std::vector<BallPlace> taken;
-        float y;
-    };
-    const Case cases[] = {
-        {{{5, 1200, 900}}, 600},
-        {{{5, 600, 600}}, 700},
-        {{{5, 600, 600}, {6, 600, 700}}, 500},
-        {{{5, 600, 600}, {6, 600, 700}, {7, 600, 500}}, 800},
-    };
-    for (const Case& c : cases) {
-        const GameState g = respotted(c.taken, {0});
-        EXPECT_EQ(g.Balls[0].x, 600);
-        EXPECT_EQ(g.Balls[0].y, c.y);
+    const GameState free = respotted({{5, 1200, 900}}, {0});
+    EXPECT_EQ(std::make_pair(free.Balls[0].x, free.Balls[0].y), std::make_pair(600.0f, 600.0f));
+    std::vector<BallPlace> taken = {{5, 600, 600}};
+    for (const float y : {700.0f, 500.0f, 800.0f}) {
+        EXPECT_EQ(respotted(taken, {0}).Balls[0].y, y);
+        taken.push_back({int(taken.size()) + 5, 600, y});
     }
 }
 
