@@ -45,22 +45,16 @@ TEST_F(Modes, ThePlayButtonsHideTheMenuAndShowTheLabelsOfTheirMode) {
     mnuChangeMode_Click(g); // and back to a solo game
     EXPECT_EQ(g.gameMode, kModeSolo);
     EXPECT_TRUE(g.controls.mnuStartEnabled);
-}
 
-TEST_F(Modes, CancelOnTheSetUpFormLandsOnTheMenu) {
-    screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; };
-    picVSPlay_Click(g, 0);
-    EXPECT_TRUE(g.controls.menuVisible);
-    EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
-}
-
-TEST_F(Modes, TheMenuLabelLeavesAGameForTheMenuAndItsMusic) {
-    picSoloPlay_Click(g, 0);
-    lblMenu_Click(g, 0);
+    lblMenu_Click(g, 0); // the menu label leaves the game for the menu and its music
     EXPECT_TRUE(g.controls.menuVisible);
     EXPECT_TRUE(isTimerEnabled(g, kTimDemo));
     EXPECT_EQ(g.bgmScene, 0);
-    EXPECT_EQ(g.bgmScenePrevious, 2);
+
+    screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; }; // Cancel on the set-up form
+    picVSPlay_Click(g, 0);
+    EXPECT_TRUE(g.controls.menuVisible);
+    EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
 }
 
 TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndStartKeepsCounting) {

@@ -31,17 +31,7 @@ TEST(Pockets, EachCushionHasItsPocketMouthsWithTheirEndsIncluded) {
     }
 }
 
-TEST(Cushions, MirrorTheDirectionKeepTheSpeedAndLoseTheFollow) {
-    BallArray balls = emptyTable();
-    putBall(balls, 2, 700, 50, 900, -1.0f);
-    balls[2].spinFollow = 400;
-    bounceCushion(balls[2], kCushionBottom);
-    EXPECT_FLOAT_EQ(balls[2].speed, 900);
-    EXPECT_FLOAT_EQ(balls[2].angle, 1.0f);
-    EXPECT_EQ(balls[2].spinFollow, 0);
-}
-
-TEST(Cushions, SideSpinPushesAlongEachCushionToTheRightOfTheApproach) {
+TEST(Cushions, MirrorTheBallAndTurnSideSpinIntoAPushToTheRightOfTheApproach) {
     const double pi = 3.1415926;
     struct Case {
         int cushion;
@@ -56,11 +46,13 @@ TEST(Cushions, SideSpinPushesAlongEachCushionToTheRightOfTheApproach) {
         BallArray balls = emptyTable();
         putBall(balls, 0, 600, 600, 1000, float(c.angle));
         balls[0].spinSide = 500;
+        balls[0].spinFollow = 400;
         bounceCushion(balls[0], c.cushion);
         EXPECT_NEAR(balls[0].vx, c.vx, 1e-2) << "cushion " << c.cushion;
         EXPECT_NEAR(balls[0].vy, c.vy, 1e-2) << "cushion " << c.cushion;
         EXPECT_FLOAT_EQ(balls[0].speed, float(std::sqrt(1000.0 * 1000 + 500 * 500)));
         EXPECT_EQ(balls[0].spinSide, 0);
+        EXPECT_EQ(balls[0].spinFollow, 0);
     }
 }
 
