@@ -42,7 +42,6 @@ template <typename Search> std::string remarkAfter(const GameState& g, Search se
 TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     GameState g = workedTable();
     expectPlan(freshPlan(g, tryDirect), 1722.6042f, 636.6762f, 37.42, 1123.2f, 710.6f);
-    EXPECT_EQ(remarkOf(freshPlan(g, tryDirect)).japanese, "素直が一番。");
 
     putBall(g.Balls, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
     const ShotPlan pocketSix = freshPlan(g, tryDirect);
@@ -101,7 +100,6 @@ TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
     EXPECT_NEAR(freshPlan(g, tryCueBankCombination).planY, 928.5712f, 0.01);
     putBall(g.Balls, 3, 1600, 1080); // before pocket 2
     EXPECT_TRUE(freshPlan(g, tryCueBankCombination).roadHoldsBall);
-    EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank & Conbination Shot!");
 }
 
 TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
