@@ -2,34 +2,26 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <string>
+#include <tuple>
 
 using namespace morvane;
 
+// Each case: the level and progress the file left, the matches ('h' a human win, 'z' zeph's),
+// and the level and progress after them.
 TEST(ZephGrowth, OnlyTwoHumanWinsInARowRaiseTheLevelUpToMaster) {
-    struct Case {
-        int16_t level;
-        int16_t progress; // as the file left it
-        std::vector<bool> humanWins;
-        int16_t levelAfter;
-        int16_t progressAfter;
+    const std::tuple<int, int, std::string, int, int> cases[] = {
+        {4, 0, "h", 4, 1},      {4, 0, "hh", 5, 0},    {4, 0, "hhzh", 5, 1}, {1, 0, "hzhz", 1, 0},
+        {10, 0, "hhhh", 11, 0}, {11, 0, "hhh", 11, 1}, {1, 5, "h", 2, 0},
     };
-    const Case cases[] = {
-        {4, 0, {true}, 4, 1},
-        {4, 0, {true, true}, 5, 0},
-        {4, 0, {true, true, false, true}, 5, 1},
-        {1, 0, {true, false, true, false}, 1, 0},
-        {10, 0, {true, true, true, true}, 11, 0},
-        {11, 0, {true, true, true}, 11, 1},
-        {1, 5, {true}, 2, 0},
-    };
-    for (const Case& c : cases) {
+    for (const auto& [level, progress, matches, levelAfter, progressAfter] : cases) {
         GameState g;
-        g.zephLevel = c.level;
-        g.zephProgress = c.progress;
-        for (bool humanWon : c.humanWins)
-            creditZephMatch(g, humanWon);
-        EXPECT_EQ(g.zephLevel, c.levelAfter) << "from level " << c.level;
-        EXPECT_EQ(g.zephProgress, c.progressAfter) << "from level " << c.level;
+        g.zephLevel = int16_t(level);
+        g.zephProgress = int16_t(progress);
+        for (char winner : matches)
+            creditZephMatch(g, winner == 'h');
+        EXPECT_EQ(std::make_pair(int(g.zephLevel), int(g.zephProgress)),
+                  std::make_pair(levelAfter, progressAfter))
+            << matches << " from level " << level;
     }
 }

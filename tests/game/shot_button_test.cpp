@@ -27,16 +27,12 @@ TEST(ShotButton, ArmsTheShotScalesTheHitPointAndHandsTheTableToTheTick) {
     EXPECT_EQ(g.Balls[0].spinSide, 3360);
     EXPECT_EQ(g.Balls[0].spinFollow, 1680);
     EXPECT_EQ(g.BallsSaved[0].spinSide, 1) << "saved for Back as it was set";
-    EXPECT_TRUE(g.ballInHandSaved);
-    EXPECT_FALSE(g.ballInHand);
+    EXPECT_TRUE(g.ballInHandSaved && !g.ballInHand);
     EXPECT_EQ(g.shotCount, 5);
     EXPECT_EQ(g.targetBall, 2);
-    EXPECT_EQ(g.firstHitBall, 0);
-    EXPECT_TRUE(g.firstHitPending);
-    EXPECT_EQ(g.pocketedCount, 0);
+    EXPECT_TRUE(g.firstHitBall == 0 && g.firstHitPending && g.pocketedCount == 0);
     EXPECT_FALSE(g.controls.target.visible || g.controls.qBall.visible);
     EXPECT_FALSE(g.controls.shotEnabled || g.controls.powerEnabled);
-    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
-    EXPECT_FALSE(isTimerEnabled(g, kTimer2));
-    EXPECT_TRUE(isTimerEnabled(g, kTimTimeCounter));
+    EXPECT_TRUE(isTimerEnabled(g, kTimer1) && isTimerEnabled(g, kTimTimeCounter));
+    EXPECT_FALSE(isTimerEnabled(g, kTimer2)) << "the break swing stops";
 }

@@ -36,7 +36,7 @@ TEST(BallContact, AFullHitPassesTheSpeedOnAndFollowOrDrawCarriesTheCueBallAlongI
     EXPECT_FLOAT_EQ(draw[0].angle, float(3.1415926));
 }
 
-TEST(BallContact, AGlancingHitSendsTheBallsOffAtRightAnglesLosingNothing) {
+TEST(BallContact, AGlancingHitSendsTheBallsOffAtRightAnglesAndAHeadOnHitSwapsThem) {
     BallArray balls = emptyTable();
     putBall(balls, 0, 1000, 600, 3000);
     putBall(balls, 1, float(1000 + 100 * std::cos(0.5)), float(600 + 100 * std::sin(0.5)));
