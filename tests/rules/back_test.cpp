@@ -42,10 +42,9 @@ TEST_F(Back, TakesTheShotBackAndCountsAShotATurnAndAFoulEachTime) {
 }
 
 TEST_F(Back, AfterAFoulRestoresBallInHandAsItWasAndCountsTheFoulTwice) {
-    setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
     g.shotCount = 1;
     g.ballInHand = true;
-    shootToRest(600, 1100, 50);
+    missEverything();
     ASSERT_EQ(g.foulCount, 1);
     g.ballInHand = false;
     undoShot(g);

@@ -17,12 +17,6 @@ class Modes : public RulesTest {
         backToMenu(g);
         screen.onChangeVsMode = [] {}; // OK as it stands: the mode stays versus
     }
-
-    // The cue ball straight at the left cushion and back along its own road: it touches nothing.
-    void missEverything() {
-        setTable(g, {{0, 600, 600}, {1, 2000, 1000}, {9, 1200, 300}});
-        shootToRest(100, 600, 35);
-    }
 };
 
 TEST_F(Modes, ThePlayButtonsHideTheMenuAndShowTheLabelsOfTheirMode) {

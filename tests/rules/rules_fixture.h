@@ -38,6 +38,12 @@ class RulesTest : public ::testing::Test {
             Timer1_Timer(g);
         ASSERT_FALSE(isTimerEnabled(g, kTimer1)) << "the shot never came to rest";
     }
+
+    // The cue ball sent up the table past everything: a miss, the cue ball stopping at x 600.
+    void missEverything() {
+        setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
+        shootToRest(600, 1100, 50);
+    }
 };
 
 } // namespace morvane::testing

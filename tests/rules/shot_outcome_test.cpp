@@ -8,14 +8,7 @@ using namespace morvane::testing;
 
 namespace {
 
-class ShotOutcome_ : public RulesTest {
-  protected:
-    // The cue ball sent up the table past everything: a miss, the cue ball stopping at x 600.
-    void missEverything() {
-        setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
-        shootToRest(600, 1100, 50);
-    }
-};
+class ShotOutcome_ : public RulesTest {};
 
 TEST_F(ShotOutcome_, APotOnALegalShotKeepsTheTurnAndAShotThatPotsNothingEndsIt) {
     setTable(g, {{0, 1800, 600}, {1, 2200, 1000}, {9, 1000, 300}});
@@ -49,7 +42,7 @@ TEST_F(ShotOutcome_, TheNineOnAFoulComesBackToTheFootSpot) {
     EXPECT_EQ(g.Balls[9].y, 600);
 }
 
-TEST_F(ShotOutcome_, InAMatchTheFoulNamesTheShooterAndBackIsNotOffered) {
+TEST_F(ShotOutcome_, AFoulInAMatchNamesTheShooterAndInTheDemoNoOneAndBackIsNotOffered) {
     g.gameMode = kModeVersus;
     g.versusCpu = false;
     g.players[0] = {"Ann", true, 0};
@@ -59,12 +52,9 @@ TEST_F(ShotOutcome_, InAMatchTheFoulNamesTheShooterAndBackIsNotOffered) {
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob missed!"});
     EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
     EXPECT_FALSE(g.controls.mnuRetryEnabled);
-}
 
-TEST_F(ShotOutcome_, InTheDemoAFoulShowsNoMessageAndZephShootsNext) {
+    screen.messages.clear(); // in the demo no message, and zeph shoots next
     g.gameMode = kModeDemo;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
     missEverything();
     EXPECT_TRUE(screen.messages.empty());
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
