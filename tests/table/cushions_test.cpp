@@ -1,7 +1,5 @@
 #include "support/balls.h"
-#include "support/recording_contacts.h"
 #include "table/cushions.h"
-#include "table/motion.h"
 
 #include <gtest/gtest.h>
 
@@ -54,13 +52,4 @@ TEST(Cushions, MirrorTheBallAndTurnSideSpinIntoAPushToTheRightOfTheApproach) {
         EXPECT_EQ(balls[0].spinSide, 0);
         EXPECT_EQ(balls[0].spinFollow, 0);
     }
-}
-
-TEST(Pockets, BallAlongTheBottomCushionPassesTheMiddleAndDropsInTheCorner) {
-    BallArray balls = emptyTable();
-    RecordingContacts contacts;
-    putBall(balls, 3, 300, 50.5f, 5000, 0);
-    for (int frame = 0; frame < 40 && balls[3].onTable; ++frame)
-        runFrame(balls, contacts);
-    expectOnlyCapture(contacts, kCushionRight, 6);
 }
