@@ -2,39 +2,26 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <string>
+#include <tuple>
 
 using namespace morvane;
 
-namespace {
-
-constexpr bool kHuman = true;
-constexpr bool kZeph = false;
-
-// Plays the matches from the given level with no progress, and gives the level and progress.
-std::pair<int, int> afterMatches(int16_t level, const std::vector<bool>& humanWins) {
-    GameState g;
-    g.zephLevel = level;
-    for (bool humanWon : humanWins)
-        creditZephMatch(g, humanWon);
-    return {g.zephLevel, g.zephProgress};
-}
-
-} // namespace
-
+// Each case: the level and progress the file left, the matches ('h' a human win, 'z' zeph's),
+// and the level and progress after them.
 TEST(ZephGrowth, OnlyTwoHumanWinsInARowRaiseTheLevelUpToMaster) {
-    EXPECT_EQ(afterMatches(4, {kHuman}), std::make_pair(4, 1));
-    EXPECT_EQ(afterMatches(4, {kHuman, kHuman}), std::make_pair(5, 0));
-    EXPECT_EQ(afterMatches(4, {kHuman, kHuman, kZeph, kHuman}), std::make_pair(5, 1));
-    EXPECT_EQ(afterMatches(1, {kHuman, kZeph, kHuman, kZeph}), std::make_pair(1, 0));
-    EXPECT_EQ(afterMatches(10, {kHuman, kHuman, kHuman, kHuman}), std::make_pair(11, 0));
-    EXPECT_EQ(afterMatches(11, {kHuman, kHuman, kHuman}), std::make_pair(11, 1));
-}
-
-TEST(ZephGrowth, AProgressLeftHighInTheFileRaisesTheLevelAtTheNextHumanWin) {
-    GameState g;
-    g.zephProgress = 5;
-    creditZephMatch(g, kHuman);
-    EXPECT_EQ(g.zephLevel, 2);
-    EXPECT_EQ(g.zephProgress, 0);
+    const std::tuple<int, int, std::string, int, int> cases[] = {
+        {4, 0, "h", 4, 1},      {4, 0, "hh", 5, 0},    {4, 0, "hhzh", 5, 1}, {1, 0, "hzhz", 1, 0},
+        {10, 0, "hhhh", 11, 0}, {11, 0, "hhh", 11, 1}, {1, 5, "h", 2, 0},
+    };
+    for (const auto& [level, progress, matches, levelAfter, progressAfter] : cases) {
+        GameState g;
+        g.zephLevel = int16_t(level);
+        g.zephProgress = int16_t(progress);
+        for (char winner : matches)
+            creditZephMatch(g, winner == 'h');
+        EXPECT_EQ(std::make_pair(int(g.zephLevel), int(g.zephProgress)),
+                  std::make_pair(levelAfter, progressAfter))
+            << matches << " from level " << level;
+    }
 }

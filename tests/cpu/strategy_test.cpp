@@ -32,13 +32,9 @@ template <typename Search> ShotPlan freshPlan(const GameState& g, Search search)
     return plan;
 }
 
-// What zeph says of the plan that one search finds from scratch, in English or in Japanese.
-template <typename Search>
-std::string remarkAfter(const GameState& g, Search search, bool japanese = false) {
-    ShotPlan plan = startPlan(g);
-    search(g, plan);
-    const Remark remark = remarkOf(plan);
-    return japanese ? remark.japanese : remark.english;
+// What zeph says of the plan that one search finds from scratch.
+template <typename Search> std::string remarkAfter(const GameState& g, Search search) {
+    return remarkOf(freshPlan(g, search)).english;
 }
 
 } // namespace
@@ -46,9 +42,6 @@ std::string remarkAfter(const GameState& g, Search search, bool japanese = false
 TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     GameState g = workedTable();
     expectPlan(freshPlan(g, tryDirect), 1722.6042f, 636.6762f, 37.42, 1123.2f, 710.6f);
-    EXPECT_EQ(freshPlan(g, tryDirect).strategy, Strategy::Direct);
-    EXPECT_EQ(remarkAfter(g, tryDirect), "Simple is best.");
-    EXPECT_EQ(remarkAfter(g, tryDirect, true), "素直が一番。");
 
     putBall(g.Balls, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
     const ShotPlan pocketSix = freshPlan(g, tryDirect);
@@ -58,10 +51,8 @@ TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     equal.cutAngle = pocketSix.cutAngle;
     tryDirect(g, equal);
     EXPECT_FALSE(equal.found);
-    EXPECT_EQ(equal.strategy, Strategy::None);
 
     putBall(g.Balls, 2, 1200, 620); // across the roads to both ghost points that are left
-    EXPECT_FALSE(freshPlan(g, tryDirect).found);
     EXPECT_EQ(remarkAfter(g, tryDirect), "I can do nothing!");
 }
 
@@ -78,7 +69,6 @@ TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysWhichKindOfShotWonLast) {
     EXPECT_EQ(combination.strategy, Strategy::DirectCombination);
     EXPECT_TRUE(combination.roadHoldsBall);
     EXPECT_EQ(remarkAfter(g, tryDirectCombination), "Combination Shot!");
-    EXPECT_EQ(remarkAfter(g, tryDirectCombination, true), "コンビネーションショット！");
     EXPECT_NEAR(freshPlan(g, tryDirect).planX, 1360.5573, 0.01); // tryDirect sees no second ball
 }
 
@@ -89,17 +79,13 @@ TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
     expectPlan(plan, 1702.4210f, 721.8712f, 18.9417, 1109.1370f, 2971.9521f);
     EXPECT_EQ(plan.strategy, Strategy::ObjectBank);
     EXPECT_EQ(g.pocketTable[8].x, 0) << "the images are zeph's own, not the table's";
-    EXPECT_EQ(remarkAfter(g, tryObjectBank), ".......");
-    EXPECT_EQ(remarkAfter(g, tryObjectBank, true), "的球のバンクだとはいるかな？");
-
     ShotPlan nearlyStraight = startPlan(g);
     nearlyStraight.cutAngle = 0.17f; // under 10 degrees no bank can beat it
     tryObjectBank(g, nearlyStraight);
     EXPECT_FALSE(nearlyStraight.found);
 
-    putBall(g.Balls, 2, 2190, 612);                                 // on the target's road to the image
+    putBall(g.Balls, 2, 2190, 612);                           // on the target's road to the image
     EXPECT_EQ(freshPlan(g, tryObjectBank).planX, plan.planX); // no second ball is worked in
-    EXPECT_EQ(remarkAfter(g, tryObjectBank, true), "これは無理かな～");
 
     GameState edge = tableWithCueAt(600, 600);
     putBall(edge.Balls, 1, 1200, 100); // every ghost point for the images lies near the cushion
@@ -111,15 +97,9 @@ TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
     putBall(g.Balls, 1, 2000, 1000);
     // Pocket 2 by way of the right cushion.
     expectPlan(freshPlan(g, tryCueBank), 2350, 928.5712f, 1.2707, 2096.6113f, 813.9410f);
-    EXPECT_EQ(remarkAfter(g, tryCueBank), "Bank Shot.");
-    EXPECT_EQ(remarkAfter(g, tryCueBank, true), "バンクショット！");
-
     EXPECT_NEAR(freshPlan(g, tryCueBankCombination).planY, 928.5712f, 0.01);
-    EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank Shot!");
     putBall(g.Balls, 3, 1600, 1080); // before pocket 2
     EXPECT_TRUE(freshPlan(g, tryCueBankCombination).roadHoldsBall);
-    EXPECT_EQ(remarkAfter(g, tryCueBankCombination), "Bank & Conbination Shot!");
-    EXPECT_EQ(remarkAfter(g, tryCueBankCombination, true), "バンク＆コンビネーション！");
 }
 
 TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
@@ -127,13 +107,10 @@ TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
     putBall(g.Balls, 1, 1800, 600);
     // Probe 1, the centre, is blocked by the target; probe 3 against pocket 3 beats probe 2.
     expectPlan(freshPlan(g, tryJustHit), 1769.7165f, 506.7959f, 49.5560, 1173.4268f, 777.8175f);
-    EXPECT_EQ(remarkAfter(g, tryJustHit), "Difficalt !");
-    EXPECT_EQ(remarkAfter(g, tryJustHit, true), "当てるぐらいしかできませんね");
-
     ShotPlan found = startPlan(g);
     found.found = true;
     tryJustHit(g, found);
-    EXPECT_EQ(found.planX, g.aimX);
+    EXPECT_EQ(found.planX, g.aimX) << "a plan already found is left alone";
 }
 
 TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
@@ -141,17 +118,14 @@ TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
     putBall(g.Balls, 1, 2000, 900);
     // Left: 4450 in all; right: blocked by the target; top: 3303.4, chosen; bottom: 3303.4 again
     // is not below it, yet its runs are the ones written last.
-    const ShotPlan plan = freshPlan(g, tryCushionHit);
-    expectPlan(plan, 1300, 1150, 180, 2202.2716f, 1101.1358f);
-    EXPECT_EQ(remarkAfter(g, tryCushionHit), "I can't Poket.");
-    EXPECT_EQ(remarkAfter(g, tryCushionHit, true), "とりあえず当てていきましょうかね。");
+    expectPlan(freshPlan(g, tryCushionHit), 1300, 1150, 180, 2202.2716f, 1101.1358f);
 
     GameState mouth = tableWithCueAt(600, 600);
     putBall(mouth.Balls, 1, 1700, 600); // top and bottom bank points at x = 1150 exactly
     expectPlan(freshPlan(mouth, tryCushionHit), 50, 600, 180, 2200, 1650);
 }
 
-TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestPocket) {
+TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestFreePocket) {
     GameState g = workedTable();
     RecordingScreen screen;
     g.ports.screen = &screen;
@@ -161,28 +135,18 @@ TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestPocket) {
     EXPECT_NEAR(g.Balls[0].x, 1800 - 200 * 550 / 710.6335, 1e-3); // behind the target, pocket 3
     EXPECT_NEAR(g.Balls[0].y, 700 - 200 * 450 / 710.6335, 1e-3);
     EXPECT_NEAR(g.aimX, 1800, 1e-3);
-    EXPECT_NEAR(g.aimY, 700, 1e-3);
-    EXPECT_NEAR(g.controls.target.left, 30 + 360 - 10, 1e-3);
-    EXPECT_NEAR(g.controls.target.top, 30 + 100 - 10, 1e-3);
     EXPECT_FALSE(g.controls.qBall.visible);
     EXPECT_EQ(screen.calls, (std::vector<std::string>{"drawTable", "refreshPool"}));
     EXPECT_EQ(g.controls.zephsMessage, "My turn.");
-    EXPECT_NEAR(freshPlan(g, tryDirect).cutAngle, 0, 1e-3);
-    g.isJapanese = true;
-    placeCueBall(g);
-    EXPECT_EQ(g.controls.zephsMessage, "動かさなきゃ");
-}
 
-TEST(PlaceCueBall, SkipsTakenSpotsAndSpotsOnACushionLineAndStaysPutWithoutBallInHand) {
-    GameState g = tableWithCueAt(600, 900);
-    putBall(g.Balls, 1, 1200, 250);
-    putBall(g.Balls, 2, 1200, 450); // takes the spot for pocket 5
-    placeCueBall(g);
-    EXPECT_EQ(g.Balls[0].x, 600);
-    EXPECT_NEAR(g.aimX, 1200, 1e-3);
-    g.ballInHand = true;
-    placeCueBall(g);
+    GameState taken = tableWithCueAt(600, 900);
+    putBall(taken.Balls, 1, 1200, 250);
+    putBall(taken.Balls, 2, 1200, 450); // takes the spot for pocket 5
+    placeCueBall(taken);
+    EXPECT_EQ(taken.Balls[0].x, 600) << "stays put without ball in hand";
+    taken.ballInHand = true;
+    placeCueBall(taken);
     // Pocket 2's spot is (1200, 50), on the cushion line; pocket 4 comes before pocket 6.
-    EXPECT_NEAR(g.Balls[0].x, 1200 + 200 * 1150 / 1167.2618, 1e-3);
-    EXPECT_NEAR(g.Balls[0].y, 250 + 200 * 200 / 1167.2618, 1e-3);
+    EXPECT_NEAR(taken.Balls[0].x, 1200 + 200 * 1150 / 1167.2618, 1e-3);
+    EXPECT_NEAR(taken.Balls[0].y, 250 + 200 * 200 / 1167.2618, 1e-3);
 }

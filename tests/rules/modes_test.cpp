@@ -1,6 +1,8 @@
-// Moving between the modes: play buttons, labels, the hidden menu, the demo.
+// Moving between the modes: play buttons, labels, the hidden menu, the match set-up form, the
+// demo. What the set-up form's OK, spin button and name form do is tested through their widgets.
 #include "rules/demo.h"
 #include "rules/match.h"
+#include "rules/match_setup_form.h"
 #include "rules/modes.h"
 #include "rules/new_game.h"
 #include "rules_fixture.h"
@@ -17,138 +19,119 @@ class Modes : public RulesTest {
         backToMenu(g);
         screen.onChangeVsMode = [] {}; // OK as it stands: the mode stays versus
     }
-
-    // The cue ball straight at the left cushion and back along its own road: it touches nothing.
-    void missEverything() {
-        setTable(g, {{0, 600, 600}, {1, 2000, 1000}, {9, 1200, 300}});
-        shootToRest(100, 600, 35);
-    }
-
-    // Ball 1 dead on into the top right corner.
-    void potBallOne() {
-        setTable(g, {{0, 1850, 650}, {1, 2150, 950}, {9, 1200, 300}});
-        shootToRest(2150, 950);
-    }
 };
 
-TEST_F(Modes, SoloPlayHidesTheMenuAndShowsAllThreeLabels) {
+TEST_F(Modes, ThePlayButtonsHideTheMenuAndShowTheLabelsOfTheirMode) {
     picSoloPlay_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeSolo);
     EXPECT_FALSE(g.controls.menuVisible);
     EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, true, true}));
-    EXPECT_EQ(g.controls.shotCaption, "Shot!");
-    EXPECT_EQ(g.controls.shotFont.size, 18.75f);
     EXPECT_EQ(g.bgmScene, 2);
-}
 
-TEST_F(Modes, AMatchAgainstZephOffersThreeGamesAndShowsOnlyTheMenuLabel) {
+    backToMenu(g);
     g.matchTarget = 7;
     picVSCPU_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeVersus);
     EXPECT_EQ(g.matchTarget, 3);
     EXPECT_EQ(g.players[1].name, "zeph");
-    EXPECT_TRUE(g.versusCpu);
     EXPECT_FALSE(g.controls.mnuStartEnabled);
     EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, false, false}));
     EXPECT_EQ(g.bgmScene, 3);
-}
 
-TEST_F(Modes, CancelOnTheSetUpFormLandsOnTheMenu) {
-    screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; };
+    mnuChangeMode_Click(g); // and back to a solo game
+    EXPECT_EQ(g.gameMode, kModeSolo);
+    EXPECT_TRUE(g.controls.mnuStartEnabled);
+
+    lblMenu_Click(g, 0); // the menu label leaves the game for the menu and its music
+    EXPECT_TRUE(g.controls.menuVisible);
+    EXPECT_TRUE(isTimerEnabled(g, kTimDemo));
+    EXPECT_EQ(g.bgmScene, 0);
+
+    screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; }; // Cancel on the set-up form
     picVSPlay_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeMenu);
     EXPECT_TRUE(g.controls.menuVisible);
     EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
 }
 
-TEST_F(Modes, TheMenuLabelLeavesAGameForTheMenuAndItsMusic) {
-    picSoloPlay_Click(g, 0);
-    lblMenu_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeMenu);
-    EXPECT_TRUE(g.controls.menuVisible);
-    EXPECT_TRUE(isTimerEnabled(g, kTimDemo));
-    EXPECT_EQ(g.bgmScene, 0);
-    EXPECT_EQ(g.bgmScenePrevious, 2);
-}
-
-TEST_F(Modes, ChangeModeSwitchesAMatchBackToASoloGame) {
-    picVSCPU_Click(g, 0);
-    mnuChangeMode_Click(g);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(g.controls.mnuStartEnabled);
-    EXPECT_EQ(g.controls.shotCaption, "SHOT!");
-    EXPECT_EQ(g.controls.mnuChangeModeCaption, "独り撞き→対戦(&M)");
-}
-
-TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
+TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndStartKeepsCounting) {
+    mnuStart_click(g); // Start from the menu keeps the menu mode, so the count goes on
+    EXPECT_FALSE(g.controls.menuVisible);
     for (int second = 1; second <= 30; ++second)
         timDemo_Timer(g);
     EXPECT_EQ(g.gameMode, kModeMenu);
     timDemo_Timer(g);
     EXPECT_EQ(g.gameMode, kModeDemo);
-    EXPECT_FALSE(g.controls.menuVisible);
-    EXPECT_EQ(g.controls.shotCaption, "DEMO");
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
     EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{false, false, false}));
     timDemo_Timer(g);
     EXPECT_EQ(g.demoCounter, 0);
 }
 
-TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRoll) {
-    startDemo(g);
-    setTimerEnabled(g, kTimer1, true);
-    picPool_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeMenu);
-    EXPECT_FALSE(isTimerEnabled(g, kTimer1));
-    EXPECT_FALSE(isTimerEnabled(g, kTimCom));
-    EXPECT_TRUE(g.breakPending);
-}
-
-TEST_F(Modes, AClickOnTheTableDoesNothingInSoloPlay) {
+TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRollButNotASoloGame) {
     picSoloPlay_Click(g, 0);
     setTimerEnabled(g, kTimer1, true);
     picPool_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeSolo);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1));
+
+    startDemo(g);
+    setTimerEnabled(g, kTimer1, true);
+    picPool_Click(g, 0);
+    EXPECT_EQ(g.gameMode, kModeMenu);
+    EXPECT_FALSE(isTimerEnabled(g, kTimer1) || isTimerEnabled(g, kTimCom));
+    EXPECT_TRUE(g.breakPending);
 }
 
-TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnew) {
+TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnewButAMatchGoesOn) {
     startDemo(g);
     g.breakPending = false;
     for (int shot = 1; shot <= 29; ++shot)
         missEverything();
-    potBallOne();
+    setTable(g, {{0, 1850, 650}, {1, 2150, 950}, {9, 1200, 300}}); // ball 1 into a corner
+    shootToRest(2150, 950);
     ASSERT_FALSE(g.Balls[1].onTable);
     for (int shot = 1; shot <= 29; ++shot)
         missEverything();
     EXPECT_FALSE(g.breakPending);
-    EXPECT_EQ(g.shotCount, 59);
-
     missEverything();
     EXPECT_TRUE(g.breakPending) << "racked anew";
     EXPECT_EQ(g.shotCount, 0);
-    EXPECT_TRUE(g.Balls[5].onTable);
-    EXPECT_EQ(g.gameMode, kModeDemo);
     EXPECT_TRUE(isTimerEnabled(g, kTimCom)) << "zeph breaks the new rack";
-}
 
-TEST_F(Modes, AMatchKeepsTheRulesHoweverLongNothingFalls) {
     g.gameMode = kModeVersus;
     g.versusCpu = false;
     g.breakPending = false;
     for (int shot = 1; shot <= 40; ++shot)
         missEverything();
     EXPECT_FALSE(g.breakPending);
-    EXPECT_EQ(g.shotCount, 40);
     EXPECT_EQ(g.foulCount, 40);
 }
 
-TEST_F(Modes, StartFromTheMenuKeepsTheMenuModeSoTheDemoCountGoesOn) {
-    mnuStart_click(g);
-    EXPECT_FALSE(g.controls.menuVisible);
+TEST(MatchSetupForm, OpensWithTrimmedNamesTheLengthWithNoBlankAndOnlyZephLocked) {
+    GameState g;
+    nameSides(g, "  Ann ", "zeph");
+    g.matchTarget = 1;
+    const MatchSetupView view = loadMatchSetup(g);
+    EXPECT_EQ(view.firstName, "Ann");
+    EXPECT_EQ(view.secondName, "zeph");
+    EXPECT_FALSE(view.secondNameEditable);
+    EXPECT_EQ(view.lengthCaption, "1Wins Match") << "until the spin button moves";
+    EXPECT_EQ(view.matchLength, 1);
+    g.players[1].name = "Zeph";
+    EXPECT_TRUE(loadMatchSetup(g).secondNameEditable);
+}
+
+TEST(MatchSetupForm, CancelLeavesNoMatchAgainstZephAndHeadsForTheMenu) {
+    GameState g;
+    g.gameMode = kModeVersus;
+    g.versusCpu = true;
+    g.controls.mnuStartEnabled = false;
+    changeVsModeCancel(g);
+    EXPECT_FALSE(g.versusCpu);
     EXPECT_EQ(g.gameMode, kModeMenu);
-    timDemo_Timer(g);
-    EXPECT_EQ(g.demoCounter, 1);
+    EXPECT_TRUE(g.controls.mnuStartEnabled);
+    EXPECT_EQ(g.controls.shotCaption, "SHOT!");
+    EXPECT_EQ(g.controls.mnuChangeModeCaption, "独り撞き→対戦(&M)");
 }
 
 } // namespace

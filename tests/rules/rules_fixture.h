@@ -8,27 +8,19 @@
 #include "rules/game_tick.h"
 #include "support/recording_screen.h"
 #include "support/table_setup.h"
+#include "support/temp_home.h"
 
-#include <cstdlib>
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 namespace morvane::testing {
 
 class RulesTest : public ::testing::Test {
   protected:
+    TempHome home;
     GameState g;
     RecordingScreen screen;
-    std::filesystem::path home;
 
     void SetUp() override {
-        home = std::filesystem::temp_directory_path() /
-               ("morvane-rules-" + std::to_string(::getpid()) + "-" +
-                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::remove_all(home);
-        std::filesystem::create_directories(home);
-        ::setenv("MORVANE_HOME", home.c_str(), 1);
         g.ports.screen = &screen;
         for (TimerId id : {kTimer1, kTimer2, kTimCom, kTimDemo, kTimTimeCounter, kTimBGM})
             setTimerInterval(g, id, 50);
@@ -36,21 +28,21 @@ class RulesTest : public ::testing::Test {
         g.breakPending = false;
     }
 
-    void TearDown() override { std::filesystem::remove_all(home); }
-
     // Fires the shot as set up and runs the game tick until it stops, as Timer1 would.
     void shootToRest(float aimX, float aimY, int16_t power = 60) {
         g.aimX = aimX;
         g.aimY = aimY;
         setPower(g, power);
         cmdShot_Click(g);
-        runTicks();
-    }
-
-    void runTicks() {
         for (int tick = 0; tick < 5000 && isTimerEnabled(g, kTimer1); ++tick)
             Timer1_Timer(g);
         ASSERT_FALSE(isTimerEnabled(g, kTimer1)) << "the shot never came to rest";
+    }
+
+    // The cue ball sent up the table past everything: a miss, the cue ball stopping at x 600.
+    void missEverything() {
+        setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
+        shootToRest(600, 1100, 50);
     }
 };
 

@@ -10,37 +10,26 @@ namespace {
 
 class ShotOutcome_ : public RulesTest {};
 
-TEST_F(ShotOutcome_, APotOnALegalShotKeepsTheTurn) {
+TEST_F(ShotOutcome_, APotOnALegalShotKeepsTheTurnAndAShotThatPotsNothingEndsIt) {
     setTable(g, {{0, 1800, 600}, {1, 2200, 1000}, {9, 1000, 300}});
     shootToRest(2200, 1000, 35);
     EXPECT_FALSE(g.Balls[1].onTable);
-    EXPECT_EQ(g.pocketedCount, 1);
     EXPECT_EQ(g.turnCount, 0);
-    EXPECT_EQ(g.foulCount, 0);
-    EXPECT_EQ(g.shotCount, 1);
-    EXPECT_FALSE(g.ballInHand);
     EXPECT_TRUE(screen.messages.empty());
-    EXPECT_TRUE(g.controls.shotEnabled);
     EXPECT_TRUE(g.controls.mnuRetryEnabled);
-}
 
-TEST_F(ShotOutcome_, ALegalShotThatPotsNothingEndsTheTurnWithoutAFoul) {
     setTable(g, {{0, 600, 600}, {1, 1200, 600}, {9, 1000, 1000}});
     shootToRest(1200, 600, 35);
-    EXPECT_EQ(g.firstHitBall, 1);
     EXPECT_EQ(g.turnCount, 1);
     EXPECT_EQ(g.foulCount, 0);
+    EXPECT_FALSE(g.ballInHand);
 }
 
 TEST_F(ShotOutcome_, TouchingNothingIsAMissWithBallInHandWhereTheCueBallStopped) {
-    setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
-    shootToRest(600, 1100, 50);
-    ASSERT_EQ(screen.messages.size(), 1u);
-    EXPECT_EQ(screen.messages[0], "You missed !");
+    missEverything();
+    EXPECT_EQ(screen.messages, std::vector<std::string>{"You missed !"});
     EXPECT_EQ(g.foulCount, 1);
-    EXPECT_EQ(g.turnCount, 1);
     EXPECT_TRUE(g.ballInHand);
-    EXPECT_TRUE(g.controls.qBall.visible);
     EXPECT_EQ(g.Balls[0].x, 600);
     EXPECT_NE(g.Balls[0].y, 600);
 }
@@ -48,92 +37,65 @@ TEST_F(ShotOutcome_, TouchingNothingIsAMissWithBallInHandWhereTheCueBallStopped)
 TEST_F(ShotOutcome_, TheNineOnAFoulComesBackToTheFootSpot) {
     setTable(g, {{0, 1200, 800}, {1, 300, 300}, {9, 1200, 1000}});
     shootToRest(1200, 1000, 60);
-    EXPECT_EQ(screen.messages, std::vector<std::string>{"You missed !"});
     EXPECT_TRUE(g.Balls[9].onTable);
     EXPECT_EQ(g.Balls[9].x, 1800);
     EXPECT_EQ(g.Balls[9].y, 600);
-    EXPECT_EQ(g.foulCount, 1);
 }
 
-TEST_F(ShotOutcome_, ASecondPlayerNamedInTheFoulMessageOfAMatch) {
+TEST_F(ShotOutcome_, AFoulInAMatchNamesTheShooterAndInTheDemoNoOneAndBackIsNotOffered) {
     g.gameMode = kModeVersus;
     g.versusCpu = false;
     g.players[0] = {"Ann", true, 0};
     g.players[1] = {"Bob", false, 0};
     g.turnCount = 1;
-    setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
-    shootToRest(600, 1100, 50);
+    missEverything();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob missed!"});
     EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
-}
+    EXPECT_FALSE(g.controls.mnuRetryEnabled);
 
-TEST_F(ShotOutcome_, InTheDemoAFoulShowsNoMessageAndZephShootsNext) {
+    screen.messages.clear(); // in the demo no message, and zeph shoots next
     g.gameMode = kModeDemo;
-    g.players[0] = {"You", true, 0};
-    g.players[1] = {"zeph", false, 0};
-    setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
-    shootToRest(600, 1100, 50);
+    missEverything();
     EXPECT_TRUE(screen.messages.empty());
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
     EXPECT_FALSE(g.controls.shotEnabled);
 }
 
-TEST(Respot, BallsComeBackInTheOrderOfFallingOnAFreeFootLine) {
+// Puts back the balls that fell, in this order, on a table holding the others; gives the table.
+GameState respotted(const std::vector<BallPlace>& standing, const std::vector<int16_t>& fallen) {
     GameState g;
-    setTable(g, {{0, 600, 600}});
-    g.pocketedThisShot = {3, 1, 2};
-    g.pocketedCount = 3;
+    setTable(g, standing);
+    for (std::size_t k = 0; k < fallen.size(); ++k)
+        g.pocketedThisShot[k] = fallen[k];
+    g.pocketedCount = int16_t(fallen.size());
     respotBalls(g);
-    EXPECT_EQ(g.Balls[3].x, 1800);
-    EXPECT_EQ(g.Balls[1].x, 1900);
-    EXPECT_EQ(g.Balls[2].x, 2000);
-    for (int n : {1, 2, 3}) {
+    for (int16_t n : fallen)
         EXPECT_TRUE(g.Balls[n].onTable);
-        EXPECT_EQ(g.Balls[n].y, 600);
-        EXPECT_EQ(g.Balls[n].prevX, g.Balls[n].x);
-    }
+    return g;
 }
 
-TEST(Respot, ABallOnTheFootSpotSendsTheFirstOneFurtherAndAFullLineSendsItTowardTheHead) {
-    GameState g;
-    setTable(g, {{0, 600, 600}, {1, 1800, 600}});
-    g.pocketedThisShot = {4};
-    g.pocketedCount = 1;
-    respotBalls(g);
-    EXPECT_EQ(g.Balls[4].x, 1900);
+TEST(Respot, ObjectBallsComeBackInTheOrderOfFallingAlongTheFootLineThenTowardTheHead) {
+    const GameState free = respotted({{0, 600, 600}}, {3, 1, 2});
+    EXPECT_EQ(free.Balls[3].x, 1800);
+    EXPECT_EQ(free.Balls[1].x, 1900);
+    EXPECT_EQ(free.Balls[2].x, 2000);
+    EXPECT_EQ(free.Balls[2].prevX, 2000);
 
-    setTable(g, {{0, 600, 600},
-                 {1, 1800, 600},
-                 {2, 1900, 600},
-                 {3, 2000, 600},
-                 {4, 2100, 600},
-                 {5, 2200, 600},
-                 {6, 2300, 600}});
-    g.pocketedThisShot = {9};
-    respotBalls(g);
-    EXPECT_EQ(g.Balls[9].x, 1700);
+    std::vector<BallPlace> line = {{0, 600, 600}};
+    for (int n = 1; n <= 5; ++n)
+        line.push_back({n, 1700.0f + 100 * float(n), 600});
+    EXPECT_EQ(respotted(line, {9}).Balls[9].x, 2300) << "the line's last place";
+    line.push_back({6, 2300, 600});
+    EXPECT_EQ(respotted(line, {9}).Balls[9].x, 1700) << "the line full";
 }
 
 TEST(Respot, TheCueBallGoesToTheHeadSpotElseTheNearestFreePlaceAboveThenBelowIt) {
-    struct Case {
-        std::vector<BallPlace> taken;
-        float y;
-    };
-    const Case cases[] = {
-        {{{5, 1200, 900}}, 600},
-        {{{5, 600, 600}}, 700},
-        {{{5, 600, 600}, {6, 600, 700}}, 500},
-        {{{5, 600, 600}, {6, 600, 700}, {7, 600, 500}}, 800},
-    };
-    for (const Case& c : cases) {
-        GameState g;
-        setTable(g, c.taken);
-        g.pocketedThisShot = {0};
-        g.pocketedCount = 1;
-        respotBalls(g);
-        EXPECT_EQ(g.Balls[0].x, 600);
-        EXPECT_EQ(g.Balls[0].y, c.y);
-        EXPECT_TRUE(g.Balls[0].onTable);
+    const GameState free = respotted({{5, 1200, 900}}, {0});
+    EXPECT_EQ(std::make_pair(free.Balls[0].x, free.Balls[0].y), std::make_pair(600.0f, 600.0f));
+    std::vector<BallPlace> taken = {{5, 600, 600}};
+    for (const float y : {700.0f, 500.0f, 800.0f}) {
+        EXPECT_EQ(respotted(taken, {0}).Balls[0].y, y);
+        taken.push_back({int(taken.size()) + 5, 600, y});
     }
 }
 
