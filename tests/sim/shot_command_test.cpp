@@ -27,6 +27,13 @@ json shotResult(const std::string& input, std::vector<std::string> options = {"-
     return json::parse(run.out);
 }
 
+// The two balls of twoBalls, one field of one ball changed.
+std::string withBall(int ball, const char* field, const json& value) {
+    json input = json::parse(twoBalls(900, 600, R"("aim": [0, 0])"));
+    input["balls"][ball][field] = value;
+    return input.dump();
+}
+
 } // namespace
 
 TEST(ShotCommand, FullPowerBreakRunsToRestAndReportsTheShot) {
@@ -72,19 +79,19 @@ TEST(ShotCommand, ABreakRunsFromWhereverTheCueBallStandsAlongTheSwingsArc) {
         << "without an aim the break goes straight at the rack";
 }
 
-TEST(ShotCommand, SameSeedSameShotAndTheSeedMatters) {
+TEST(ShotCommand, TheSeedDecidesTheShotAndTheTraceWritesALineAContact) {
     const std::string input = R"({"break": true, "aim": [1700, 600]})";
     EXPECT_EQ(shotResult(input), shotResult(input));
     EXPECT_NE(shotResult(input, {"--seed", "1"})["balls"],
               shotResult(input, {"--seed", "2"})["balls"]);
+    const CommandRun run = runShot(input, {"--seed", "4", "--trace"});
+    ASSERT_EQ(run.status, 0);
+    EXPECT_EQ(size_t(std::ranges::count(run.err, '\n')), json::parse(run.out)["events"].size());
 }
 
-TEST(ShotCommand, TraceWritesOneLinePerContact) {
-    const CommandRun run =
-        runShot(R"({"break": true, "aim": [1700, 600]})", {"--seed", "4", "--trace"});
-    ASSERT_EQ(run.status, 0);
-    const json r = json::parse(run.out);
-    EXPECT_EQ(size_t(std::count(run.err.begin(), run.err.end(), '\n')), r["events"].size());
+TEST(ShotCommand, BallsOnTheCushionLinesStandOnTheTable) {
+    for (const auto& [x, y] : {std::pair(50, 600), {2350, 600}, {1200, 50}, {1200, 1150}})
+        EXPECT_EQ(runShot(twoBalls(x, y, R"("aim": [0, 0])")).status, 0) << x << ", " << y;
 }
 
 TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
@@ -112,22 +119,14 @@ TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
         {R"({"break": true, "aim": [1790, 600]})", "aim"}, // on the apex ball
         {twoBalls(1800, 700, R"("aim": [1700, 600], "break": true)"), "balls"},
         {twoBalls(650, 640, R"("aim": [0, 0])"), "balls[1]"}, // 64 from the cue ball
-        {R"({"aim": [0, 0], "balls": [{"x": 600, "y": 600, "onTable": false}, {"x": 900, "y": 600},
-            {"x": 900, "y": 300}, {"x": 900, "y": 900}, {"x": 1200, "y": 300}, {"x": 1200, "y": 900},
-            {"x": 1500, "y": 300}, {"x": 1500, "y": 900}, {"x": 1800, "y": 300},
-            {"x": 1800, "y": 900}]})",
-         "balls[0]"},
-        {R"({"aim": [0, 0], "balls": [{"x": 600, "y": 600}, {"x": 900, "y": 600, "onTable": false},
-            {"x": -151, "y": 300, "onTable": false}, {"x": 900, "y": 900}, {"x": 1200, "y": 300},
-            {"x": 1200, "y": 900}, {"x": 1500, "y": 300}, {"x": 1500, "y": 900},
-            {"x": 1800, "y": 300}, {"x": 1800, "y": 900}]})",
-         "balls[2]"},
+        {withBall(0, "onTable", false), "balls[0]"},
+        {withBall(2, "x", -151), "balls[2]"}, // pocketed, yet beyond the table's frame
     };
     for (const auto& [input, field] : cases) {
         const CommandRun run = runShot(input);
         EXPECT_EQ(run.status, 2) << input;
         EXPECT_TRUE(run.out.empty()) << input;
-        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+        EXPECT_EQ(std::ranges::count(run.err, '\n'), 1) << run.err;
         EXPECT_NE(run.err.find(field + ":"), std::string::npos) << run.err;
     }
     EXPECT_EQ(runShot("{}", {"--seed"}).status, 2);
