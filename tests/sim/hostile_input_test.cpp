@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iostream>
 #include <map>
 #include <random>
 
@@ -57,7 +56,7 @@ class Hostile {
         json table = sane.contains("balls") ? sane : json{{"balls", balls()}, {"aim", anyAim()}};
         const int n = whole(1, kBallCount - 1);
         std::string text; // where what is sent is not the table written out
-        switch (whole(0, 10)) {
+        switch (whole(0, 9)) {
         case 0:
         case 1:
             in.kind = "sane";
@@ -71,21 +70,14 @@ class Hostile {
             in.kind = "not a number";
             text = withToken(sane, kNotNumbers);
             break;
-        case 4:
-            in.kind = "negative";
-            for (const auto& at : leaves(table, true)) {
-                if (chance(0.3))
-                    table[at] = -std::fabs(table[at].get<double>()) - whole(0, 3000);
-            }
-            break;
-        case 5: { // ball n closer to the cue ball than a ball's width
+        case 4: { // ball n closer to the cue ball than a ball's width
             in.kind = "overlapping";
             const double gap = uniform(0, 99.9), a = uniform(-kPi, kPi);
             table["balls"][n] = {{"x", table["balls"][0]["x"].get<double>() + gap * std::cos(a)},
                                  {"y", table["balls"][0]["y"].get<double>() + gap * std::sin(a)}};
             break;
         }
-        case 6: // a ball outside the cushion lines yet on the table, or the cue ball pocketed
+        case 5: // a ball outside the cushion lines yet on the table, or the cue ball pocketed
             in.kind = "off the table";
             if (chance(0.5))
                 table["balls"][chance(0.6) ? 0 : n] = {
@@ -94,17 +86,17 @@ class Hostile {
             else
                 table["balls"][0]["onTable"] = false;
             break;
-        case 7:
+        case 6:
             in.kind = "truncated";
             text = sane.dump();
             text.resize(size_t(whole(1, int(text.size()) - 1)));
             break;
-        case 8:
+        case 7:
             in.kind = "NUL byte";
             text = sane.dump();
             text.insert(size_t(whole(0, int(text.size()))), 1, '\0');
             break;
-        case 9:
+        case 8:
             in.kind = "wrong type";
             table = sane;
             table[pick(leaves(sane, false))] =
@@ -150,16 +142,15 @@ class Hostile {
         }
         return all;
     }
-    // The game's own rack, the cue ball anywhere behind it.
+    // The game's own rack, the cue ball anywhere before it.
     json rack() {
         BallArray placed;
         rackBalls(placed);
         json all = json::array();
         for (const BallType& b : placed)
             all.push_back({{"x", b.x}, {"y", b.y}});
-        if (chance(0.5))
-            all[0] = {{"x", uniform(kCushionLeftX, 1500)},
-                      {"y", uniform(kCushionBottomY, kCushionTopY)}};
+        all[0] = {{"x", uniform(kCushionLeftX, 1500)},
+                  {"y", uniform(kCushionBottomY, kCushionTopY)}};
         return all;
     }
     // A point of the break swing's arc.
@@ -211,22 +202,6 @@ class Hostile {
     std::mt19937_64 random_;
 };
 
-// Every number in the answer is finite; JSON writes any other as null, which only the plan of a
-// break may be.
-std::string nonFiniteIn(const json& value, const std::string& where) {
-    if (value.is_null())
-        return where == "/plan" ? "" : where + " is null";
-    if (value.is_number_float() && !std::isfinite(value.get<double>()))
-        return where + " is not finite";
-    for (auto it = value.begin(); value.is_structured() && it != value.end(); ++it) {
-        const std::string key =
-            value.is_array() ? std::to_string(std::distance(value.begin(), it)) : it.key();
-        if (std::string problem = nonFiniteIn(it.value(), where + "/" + key); !problem.empty())
-            return problem;
-    }
-    return "";
-}
-
 bool insideCushionLines(const json& x, const json& y) {
     return x.get<double>() >= kCushionLeftX && x.get<double>() <= kCushionRightX &&
            y.get<double>() >= kCushionBottomY && y.get<double>() <= kCushionTopY;
@@ -251,8 +226,12 @@ std::string problemOf(const Input& input, const CommandRun& run) {
     const json r = json::parse(run.out, nullptr, false);
     if (r.is_discarded())
         return "the answer is not JSON";
-    if (std::string problem = nonFiniteIn(r, ""); !problem.empty())
-        return problem;
+    // JSON writes a number that isn't finite as null, which only the plan of a break may be.
+    std::string text = run.out;
+    if (const size_t plan = text.find("\"plan\":null"); plan != std::string::npos)
+        text.erase(plan, 11);
+    if (text.find("null") != std::string::npos)
+        return "a number is not finite";
     if (input.args[0] == "think") {
         if (r["power"].get<int>() < kPowerMin || r["power"].get<int>() > kPowerMax)
             return "the power is out of range";
@@ -271,21 +250,16 @@ std::string problemOf(const Input& input, const CommandRun& run) {
 
 TEST(HostileInput, EveryAnswerIsFiniteAndEveryShotEndsAtRestOrTheInputIsRefused) {
     Hostile maker(20261123);
-    std::map<std::string, std::pair<int, int>> answeredAndRefused;
     std::map<std::string, int> problems;
     std::string examples;
     for (int k = 0; k < kInputs; ++k) {
         const Input input = maker.make();
         const CommandRun run = runTool(input.args, input.text);
-        auto& tally = answeredAndRefused[input.kind];
-        ++(run.status == 0 ? tally.first : tally.second);
         const std::string problem = problemOf(input, run);
         if (!problem.empty() && problems[problem]++ < 2)
             examples += problem + ": " + input.args[0] + " " + input.text + "\n";
     }
     EXPECT_TRUE(problems.empty()) << examples;
-    for (const auto& [kind, tally] : answeredAndRefused)
-        std::cout << kind << ": " << tally.first << " answered, " << tally.second << " refused\n";
 }
 
 } // namespace
