@@ -3,7 +3,6 @@
 #include "command_run.h"
 #include "game/shot_input.h"
 #include "table/constants.h"
-#include "table/rack.h"
 
 #include <gtest/gtest.h>
 
@@ -107,8 +106,8 @@ class Hostile {
             const bool onTheArc = chance(0.5);
             table = {{think ? "breakPending" : "break", true}};
             table["aim"] = onTheArc ? swingAim() : anyAim();
-            if (onTheArc || chance(0.5))
-                table["balls"] = onTheArc ? balls() : rack();
+            if (onTheArc)
+                table["balls"] = balls();
             break;
         }
         }
@@ -142,17 +141,6 @@ class Hostile {
         }
         return all;
     }
-    // The game's own rack, the cue ball anywhere before it.
-    json rack() {
-        BallArray placed;
-        rackBalls(placed);
-        json all = json::array();
-        for (const BallType& b : placed)
-            all.push_back({{"x", b.x}, {"y", b.y}});
-        all[0] = {{"x", uniform(kCushionLeftX, 1500)},
-                  {"y", uniform(kCushionBottomY, kCushionTopY)}};
-        return all;
-    }
     // A point of the break swing's arc.
     json swingAim() {
         const double d = uniform(-kSwingReach, kSwingReach);
@@ -164,8 +152,6 @@ class Hostile {
         json table;
         if (chance(0.15)) {
             table = {{think ? "breakPending" : "break", true}, {"aim", swingAim()}};
-            if (think || chance(0.5))
-                table["balls"] = rack();
         } else {
             table = {{"balls", balls()}};
             if (!think || chance(0.5))
