@@ -5,9 +5,11 @@
 #include "sound/music_tracks.h"
 #include "sound/tune_file.h"
 #include "sound_setup.h"
+#include "support/temp_home.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <future>
 #include <sstream>
@@ -91,30 +93,20 @@ TEST_F(Tunes, AClosedTuneIsFreedAndAnotherOpenOneIsKept) {
 }
 
 // A folder of broken tunes: one that isn't MIDI at all, one cut short, one not there.
-class BrokenTunes : public ::testing::Test {
-  protected:
-    std::filesystem::path folder = std::filesystem::temp_directory_path() /
-                                   ("morvane-broken-tunes-" + std::to_string(getpid()));
-    ScopedEnv driver{"SDL_AUDIODRIVER", "dummy"};
-
-    void SetUp() override {
-        std::filesystem::create_directories(folder);
-        std::ofstream(folder / "menu.mid") << "RIFF, but no MIDI";
-        std::ifstream whole(runtimeFolder() / "game1.mid", std::ios::binary);
-        std::string bytes{std::istreambuf_iterator<char>(whole), {}};
-        std::ofstream(folder / "game1.mid", std::ios::binary) << bytes.substr(0, bytes.size() / 2);
-    }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-};
-
-TEST_F(BrokenTunes, EachIsReportedOnceAndStaysSilent) {
+TEST(BrokenTunes, EachIsReportedOnceAndStaysSilent) {
+    const TempHome folder;
+    folder.writeFile("menu.mid", "RIFF, but no MIDI");
+    std::ifstream whole(runtimeFolder() / "game1.mid", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(whole), {}};
+    folder.writeFile("game1.mid", bytes.substr(0, bytes.size() / 2));
+    const ScopedEnv driver{"SDL_AUDIODRIVER", "dummy"};
     std::ostringstream said;
     {
         WarnOnce warnings(said);
         MixerDevice device(warnings, kMixBufferSamples);
         ASSERT_TRUE(device.isOpen());
         LoadingWorker loader;
-        MusicTracks tracks(folder, warnings, loader, device.rate());
+        MusicTracks tracks(folder.home_, warnings, loader, device.rate());
         for (int round = 0; round < 3; ++round) {
             for (const char* name : {"menu.mid", "game1.mid", "game2.mid"}) {
                 tracks.command(std::string("open ") + name);
@@ -127,10 +119,10 @@ TEST_F(BrokenTunes, EachIsReportedOnceAndStaysSilent) {
         }
     }
     const std::string text = said.str();
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3) << text;
-    EXPECT_NE(text.find("menu.mid: not a MIDI file"), std::string::npos) << text;
-    EXPECT_NE(text.find("game1.mid: a MIDI file cut short"), std::string::npos) << text;
-    EXPECT_NE(text.find("game2.mid: no such file"), std::string::npos) << text;
+    EXPECT_EQ(std::ranges::count(text, '\n'), 3) << text;
+    for (const char* line : {"menu.mid: not a MIDI file", "game1.mid: a MIDI file cut short",
+                             "game2.mid: no such file"})
+        EXPECT_NE(text.find(line), std::string::npos) << text;
 }
 
 TEST(TuneFile, AWholeMidiFileHasNoProblemAndItsTracksMustEndInsideIt) {

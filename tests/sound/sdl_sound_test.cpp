@@ -5,6 +5,7 @@
 #include "rules/music.h"
 #include "sound/sdl_sound.h"
 #include "sound_setup.h"
+#include "support/temp_home.h"
 
 #include <gtest/gtest.h>
 
@@ -70,13 +71,11 @@ TEST_F(Sound, TunesAreOpenedPlayedAndClosedByName) {
 }
 
 TEST(SoundWithoutFiles, StaysSilentAndSaysSoOnceAFile) {
-    const std::filesystem::path empty =
-        std::filesystem::temp_directory_path() / ("morvane-no-sounds-" + std::to_string(getpid()));
-    std::filesystem::create_directories(empty);
+    const TempHome empty;
     ScopedEnv driver("SDL_AUDIODRIVER", "dummy");
     std::ostringstream warnings;
     {
-        SdlSound sound(empty, warnings);
+        SdlSound sound(empty.home_, warnings);
         ASSERT_TRUE(sound.hasDevice());
         for (int n = 0; n < 3; ++n) {
             sound.playEffect(kSoundSoftClick, kSoundCutOff);
@@ -87,7 +86,6 @@ TEST(SoundWithoutFiles, StaysSilentAndSaysSoOnceAFile) {
         EXPECT_EQ(sound.effectPlaying(), "");
         EXPECT_EQ(sound.musicPlaying(), "");
     }
-    std::filesystem::remove_all(empty);
     EXPECT_EQ(lineCount(warnings.str()), 2) << warnings.str();
     EXPECT_NE(warnings.str().find("vmin.wav"), std::string::npos);
     EXPECT_NE(warnings.str().find("menu.mid"), std::string::npos);
