@@ -6,9 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <sstream>
 
-using morvane::sim::runCommand;
 using morvane::testing::CommandRun;
 using morvane::testing::runTool;
 using morvane::testing::twoBalls;
@@ -36,44 +34,34 @@ std::string withBall(int ball, const char* field, const json& value) {
 
 } // namespace
 
-TEST(ShotCommand, FullPowerBreakRunsToRestAndReportsTheShot) {
-    const json r = shotResult(R"({"break": true, "aim": [1700, 600], "power": 100})");
-    ASSERT_EQ(r["balls"].size(), 10u);
-    EXPECT_EQ(r["firstHitBall"], 1);
-    EXPECT_TRUE(r["stopped"].get<bool>());
-    EXPECT_GT(r["frames"].get<int>(), 20);
-    const json& events = r["events"];
-    ASSERT_FALSE(events.empty());
-    EXPECT_EQ(events[0]["ball"], 0); // the cue ball reaching the rack
-    EXPECT_EQ(events[0]["partner"], 1);
-    for (const json& ball : r["balls"])
-        EXPECT_LE(ball["speed"].get<double>(), 0);
-    // Every ball listed as pocketed is off the table, and has its capture among the events.
-    for (const json& n : r["pocketed"]) {
-        EXPECT_FALSE(r["balls"][n.get<int>()]["onTable"].get<bool>());
-        EXPECT_TRUE(std::any_of(events.begin(), events.end(), [&](const json& e) {
-            return e["ball"] == n && e.contains("pocket");
-        }));
-    }
-}
-
-TEST(ShotCommand, ABreakRunsFromWhereverTheCueBallStandsAlongTheSwingsArc) {
-    // The rack with the cue ball moved to the far corner, the aim at the end of the swing.
+TEST(ShotCommand, ABreakFromWhereverTheCueBallStandsRunsToRestAndReportsTheShot) {
+    // Full power from the head spot, and the least power from the far corner along the arc.
     morvane::BallArray rack;
     morvane::rackBalls(rack);
-    json balls = json::array();
+    json corner = {{"break", true}, {"balls", json::array()}, {"power", 35}};
     for (const morvane::BallType& b : rack)
-        balls.push_back({{"x", b.x}, {"y", b.y}});
-    balls[0] = {{"x", 60}, {"y", 1140}};
-    const double side = 3.1415926 / 5.6;
-    const json input = {{"break", true},
-                        {"balls", balls},
-                        {"aim", {1800 - 100 * std::cos(side), 600 - 100 * std::sin(side)}},
-                        {"power", 35}};
-    const json r = shotResult(input.dump());
-    EXPECT_EQ(r["firstHitBall"], 1);
-    EXPECT_TRUE(r["stopped"].get<bool>());
-    EXPECT_EQ(r["events"][0]["partner"], 1) << "the cue ball reaches the rack";
+        corner["balls"].push_back({{"x", b.x}, {"y", b.y}});
+    corner["balls"][0] = {{"x", 60}, {"y", 1140}};
+    corner["aim"] = {1800 - 100 * std::cos(3.1415926 / 5.6), 600 - 100 * std::sin(3.1415926 / 5.6)};
+    for (const std::string& input :
+         {std::string(R"({"break": true, "aim": [1700, 600], "power": 100})"), corner.dump()}) {
+        const json r = shotResult(input);
+        ASSERT_EQ(r["balls"].size(), 10u);
+        EXPECT_EQ(r["firstHitBall"], 1);
+        EXPECT_TRUE(r["stopped"].get<bool>());
+        EXPECT_GT(r["frames"].get<int>(), 20);
+        const json& events = r["events"];
+        EXPECT_EQ(std::tie(events.at(0)["ball"], events.at(0)["partner"]), std::tuple(0, 1))
+            << "the cue ball reaches the rack first";
+        for (const json& ball : r["balls"])
+            EXPECT_LE(ball["speed"].get<double>(), 0);
+        // Every ball listed as pocketed is off the table, and has its capture among the events.
+        for (const json& n : r["pocketed"]) {
+            EXPECT_FALSE(r["balls"][n.get<int>()]["onTable"].get<bool>());
+            EXPECT_TRUE(std::ranges::any_of(
+                events, [&](const json& e) { return e["ball"] == n && e.contains("pocket"); }));
+        }
+    }
     EXPECT_EQ(shotResult(R"({"break": true})"),
               shotResult(R"({"break": true, "aim": [1700, 600]})"))
         << "without an aim the break goes straight at the rack";
@@ -134,9 +122,8 @@ TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
 }
 
 TEST(Commands, UnknownOrMissingCommandIsRefused) {
-    std::istringstream in;
-    std::ostringstream out, err;
-    EXPECT_EQ(runCommand({"bounce"}, in, out, err), 2);
-    EXPECT_EQ(runCommand({}, in, out, err), 2);
-    EXPECT_NE(err.str().find("usage"), std::string::npos);
+    EXPECT_EQ(runTool({"bounce"}).status, 2);
+    const CommandRun none = runTool({});
+    EXPECT_EQ(none.status, 2);
+    EXPECT_NE(none.err.find("usage"), std::string::npos);
 }
