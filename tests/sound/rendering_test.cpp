@@ -137,29 +137,4 @@ TEST_F(Rendering, EveryTuneSoundsAndLeavesTheLoudestEffectRoomBelowFullScale) {
     EXPECT_EQ(warnings.str(), "");
 }
 
-TEST_F(Rendering, TheLoudestEffectsOverTheMusicNeverReachFullScale) {
-    constexpr int kRounds = 12;
-    size_t startedAt = 0;
-    {
-        SdlSound sound(runtimeFolder());
-        ASSERT_TRUE(sound.hasDevice());
-        sound.sendMusic("open game2.mid");
-        sound.waitForMusicLoads();
-        startedAt = bytesWritten();
-        sound.sendMusic("play game2.mid");
-        for (int round = 0; round < kRounds; ++round) {
-            for (const char* effect : {kSoundHardClick, kSoundDrop, kSoundCushion}) {
-                sound.playEffect(effect, kSoundCutOff);
-                ASSERT_TRUE(waitForMixer([&] { return sound.effectPlaying().empty(); }));
-            }
-        }
-    }
-    const std::vector<int16_t> mix = samplesOf(output, startedAt);
-    const auto atFullScale = std::count_if(
-        mix.begin(), mix.end(), [](int16_t sample) { return sample == 32767 || sample == -32768; });
-    EXPECT_EQ(atFullScale, 0);
-    EXPECT_GT(levelOf(mix).peak, levelOfWav(kSoundHardClick).peak)
-        << "the effects sounded over the music";
-}
-
 } // namespace
