@@ -7,8 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
+#include <numeric>
 #include <random>
 
 using namespace morvane;
@@ -125,20 +127,17 @@ class Hostile {
         return list[size_t(whole(0, int(list.size()) - 1))];
     }
 
-    // Ten balls at rest inside the cushion lines, the cue ball on the table, and any ball that
-    // would overlap one before it off the table.
+    // Ten balls at rest, each in its own cell of a five-by-two grid of the table so that none
+    // overlaps another, the cue ball always on the table.
     json balls() {
+        std::array<int, kBallCount> cell{};
+        std::iota(cell.begin(), cell.end(), 0);
+        std::ranges::shuffle(cell, random_);
         json all = json::array();
-        for (int n = 0; n < kBallCount; ++n) {
-            const double x = uniform(kCushionLeftX, kCushionRightX);
-            const double y = uniform(kCushionBottomY, kCushionTopY);
-            bool free = true;
-            for (const json& b : all)
-                free = free && (!b["onTable"].get<bool>() ||
-                                std::hypot(b["x"].get<double>() - x, b["y"].get<double>() - y) >
-                                    kBallDiameter + 0.01);
-            all.push_back({{"x", x}, {"y", y}, {"onTable", n == 0 || (free && chance(0.8))}});
-        }
+        for (int n = 0; n < kBallCount; ++n)
+            all.push_back({{"x", 280 + 460 * (cell[size_t(n)] % 5) + uniform(-170, 170)},
+                           {"y", 325 + 550 * (cell[size_t(n)] / 5) + uniform(-200, 200)},
+                           {"onTable", n == 0 || chance(0.8)}});
         return all;
     }
     // A point of the break swing's arc.
