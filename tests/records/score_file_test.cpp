@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <sstream>
 
 using namespace morvane;
 
@@ -46,48 +47,37 @@ TEST_F(ScoreFile, NoFileGivesTheDefaultTablesAndLevelOne) {
     EXPECT_TRUE(folderEntries().empty()) << "reading creates no file";
 }
 
-TEST_F(ScoreFile, SavesTheSoloTableInItsExactForm) {
+TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSection) {
     GameState g;
     g.soloRecords[1] = soloRow("zeph", 14, 312, 1, "123456789", "98/02/11");
     g.soloRecords[2] = soloRow("Ann", 9, -45, 2, "020000009", "25/12/31");
-    saveSoloRecord(g);
-    std::vector<std::string> expected = {"[SOLO]",
-                                         "Shots01= 14",
-                                         "Time01= 312",
-                                         "Turn01= 1",
-                                         "Name01=zeph" + std::string(16, ' '),
-                                         "Balls01=123456789",
-                                         "Date01=98/02/11",
-                                         "Shots02= 9",
-                                         "Time02=-45",
-                                         "Turn02= 2",
-                                         "Name02=Ann" + std::string(17, ' '),
-                                         "Balls02=020000009",
-                                         "Date02=25/12/31"};
-    for (std::string row : {"03", "04", "05", "06", "07", "08", "09", "10"}) {
-        expected.insert(expected.end(), {"Shots" + row + "= 0", "Time" + row + "= 3600",
-                                         "Turn" + row + "= 10", "Name" + row + "=" + kZephName,
-                                         "Balls" + row + "=000000000", "Date" + row + "=98/01/01"});
-    }
-    EXPECT_EQ(lines("MVSCORE.INI"), expected);
-}
-
-TEST_F(ScoreFile, EachSaveRewritesOnlyItsOwnSection) {
-    GameState g;
     g.vsCpuRecords[1] = {fitToWidth("Bob", 20), 3, 2, 0.6f, "26/01/02", 75, 11, 1};
     g.zephLevel = 4;
     g.zephProgress = 1;
     saveSoloRecord(g);
     saveZephLevel(g);
     saveVsCpuRecord(g);
+    std::vector<std::string> expected{"[SOLO]"};
+    const auto addSoloRow = [&](const std::string& n, const std::string& values) {
+        std::istringstream in(values);
+        for (const char* key : {"Shots", "Time", "Turn", "Name", "Balls", "Date"}) {
+            std::string value;
+            std::getline(in, value, '|');
+            expected.push_back(key + n + "=" + value);
+        }
+    };
+    addSoloRow("01", " 14| 312| 1|zeph" + std::string(16, ' ') + "|123456789|98/02/11");
+    addSoloRow("02", " 9|-45| 2|Ann" + std::string(17, ' ') + "|020000009|25/12/31");
+    for (const char* n : {"03", "04", "05", "06", "07", "08", "09", "10"})
+        addSoloRow(n, " 0| 3600| 10|" + kZephName + "|000000000|98/01/01");
+    expected.insert(expected.end(),
+                    {"[ZEPH]", "LV= 4", "PG= 1", "[VSCPU]", "Name01=Bob" + std::string(17, ' '),
+                     "Date01=26/01/02", "Time01= 75", "YouWon01= 3", "CPUWon01= 2",
+                     "LevelOfZeph01= 11"});
     const auto all = lines("MVSCORE.INI");
     ASSERT_EQ(all.size(), 61u + 3u + 61u);
-    const std::vector<std::string> zephAndFirstRow(all.begin() + 61, all.begin() + 71);
-    EXPECT_EQ(zephAndFirstRow,
-              (std::vector<std::string>{"[ZEPH]", "LV= 4", "PG= 1", "[VSCPU]",
-                                        "Name01=Bob" + std::string(17, ' '), "Date01=26/01/02",
-                                        "Time01= 75", "YouWon01= 3", "CPUWon01= 2",
-                                        "LevelOfZeph01= 11"}));
+    EXPECT_EQ(std::vector(all.begin(), all.begin() + 71), expected);
+
     g.soloRecords[3].Shots = 5;
     saveSoloRecord(g);
     auto after = lines("MVSCORE.INI");
