@@ -5,7 +5,6 @@
 #include "sound/music_tracks.h"
 #include "sound/tune_file.h"
 #include "sound_setup.h"
-#include "support/temp_home.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,6 @@
 #include "rules/music.h"
 #include "sound/sdl_sound.h"
 #include "sound_setup.h"
-#include "support/temp_home.h"
 
 #include <gtest/gtest.h>
 

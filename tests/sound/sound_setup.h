@@ -2,17 +2,12 @@
 // and a bounded wait for the mixer's own thread.
 #pragma once
 
-#include "support/scoped_env.h"
+#include "support/asset_files.h"
+#include "support/temp_home.h"
 
 #include <SDL.h>
 
-#include <filesystem>
-
 namespace morvane::testing {
-
-inline std::filesystem::path runtimeFolder() {
-    return MORVANE_RUNTIME_DIR;
-}
 
 // The mixer works on its own thread; this waits for what it is to do, up to a generous limit,
 // and says whether it came.

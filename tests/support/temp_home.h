@@ -2,17 +2,42 @@
 // The real home is never touched, and the variables that choose the folder are restored.
 #pragma once
 
-#include "support/scoped_env.h"
-
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace morvane::testing {
+
+// An environment variable set, or only kept, for the life of the guard, its old value put back
+// after.
+class ScopedEnv {
+  public:
+    explicit ScopedEnv(const char* name, const std::optional<std::string>& value = std::nullopt)
+        : name_(name) {
+        if (const char* old = std::getenv(name))
+            old_ = old;
+        if (value)
+            ::setenv(name, value->c_str(), 1);
+    }
+    ~ScopedEnv() {
+        if (old_)
+            ::setenv(name_, old_->c_str(), 1);
+        else
+            ::unsetenv(name_);
+    }
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+  private:
+    const char* name_;
+    std::optional<std::string> old_;
+};
 
 // The folder for as long as the object lives; a fixture that has another base holds one.
 class TempHome {
