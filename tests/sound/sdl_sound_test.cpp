@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <sstream>
 
 using namespace morvane;
@@ -69,26 +70,35 @@ TEST_F(Sound, TunesAreOpenedPlayedAndClosedByName) {
     EXPECT_EQ(warnings.str(), "");
 }
 
-// Without the files the device plays nothing and each missing file is told once; without a
-// device nothing plays and that is told once.
+// Without its files, or with broken ones (one no MIDI at all, one cut short), the device plays
+// nothing and each lack is told once; without a device nothing plays and that is told once.
 TEST(SilentSound, WithoutFilesOrDeviceNothingPlaysAndEachLackIsToldOnce) {
-    const TempHome empty;
-    const std::tuple<const char*, std::filesystem::path, std::vector<std::string>> cases[] = {
-        {"dummy", empty.home_, {"vmin.wav", "menu.mid"}},
+    const TempHome empty, broken;
+    broken.writeFile("menu.mid", "RIFF, but no MIDI");
+    std::ifstream whole(runtimeFolder() / "game1.mid", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(whole), {}};
+    broken.writeFile("game1.mid", bytes.substr(0, bytes.size() / 2));
+    const std::tuple<const char*, std::string, std::vector<std::string>> cases[] = {
+        {"dummy", empty.home_, {"vmin.wav", "menu.mid: no such file", "game1.mid: no such file"}},
+        {"dummy",
+         broken.home_,
+         {"vmin.wav", "menu.mid: not a MIDI file", "game1.mid: a MIDI file cut short"}},
         {"no-such-driver", runtimeFolder(), {"no-such-driver"}}};
     for (const auto& [driverName, folder, told] : cases) {
         ScopedEnv driver("SDL_AUDIODRIVER", driverName);
         std::ostringstream warnings;
         {
             SdlSound sound(folder, warnings);
-            EXPECT_EQ(sound.hasDevice(), folder == empty.home_);
+            EXPECT_EQ(sound.hasDevice(), driverName == std::string("dummy"));
             for (int n = 0; n < 3; ++n) {
                 sound.playEffect(kSoundSoftClick, kSoundCutOff);
-                sound.sendMusic("open menu.mid");
-                sound.sendMusic("play menu.mid");
-                sound.waitForMusicLoads();
-                EXPECT_EQ(sound.musicPlaying(), "") << driverName;
-                sound.sendMusic("close menu.mid");
+                for (const std::string tune : {"menu.mid", "game1.mid"}) {
+                    sound.sendMusic("open " + tune);
+                    sound.sendMusic("play " + tune);
+                    sound.waitForMusicLoads();
+                    EXPECT_EQ(sound.musicPlaying(), "") << driverName << " " << tune;
+                    sound.sendMusic("close " + tune);
+                }
             }
             EXPECT_EQ(sound.effectPlaying(), "");
         }
