@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <map>
 #include <numeric>
 #include <random>
@@ -49,71 +50,58 @@ class Hostile {
 
     Input make() {
         const bool think = chance(0.3);
-        Input in;
-        in.args = think ? std::vector<std::string>{"think", "--level", std::to_string(whole(1, 11))}
-                        : std::vector<std::string>{"shot"};
+        Input in{"", {"shot"}, ""};
+        if (think)
+            in.args = {"think", "--level", std::to_string(whole(1, 11))};
         in.args.insert(in.args.end(), {"--seed", std::to_string(whole(0, 99))});
         const json sane = saneTable(think);
         json table = sane.contains("balls") ? sane : json{{"balls", balls()}, {"aim", anyAim()}};
-        const int n = whole(1, kBallCount - 1);
-        std::string text; // where what is sent is not the table written out
-        switch (whole(0, 9)) {
-        case 0:
-        case 1:
-            in.kind = "sane";
-            table = sane;
-            break;
-        case 2:
-            in.kind = "huge";
-            text = withToken(sane, kHugeNumbers);
-            break;
-        case 3:
-            in.kind = "not a number";
-            text = withToken(sane, kNotNumbers);
-            break;
-        case 4: { // ball n closer to the cue ball than a ball's width
-            in.kind = "overlapping";
-            const double gap = uniform(0, 99.9), a = uniform(-kPi, kPi);
-            table["balls"][n] = {{"x", table["balls"][0]["x"].get<double>() + gap * std::cos(a)},
-                                 {"y", table["balls"][0]["y"].get<double>() + gap * std::sin(a)}};
-            break;
-        }
-        case 5: // a ball outside the cushion lines yet on the table, or the cue ball pocketed
-            in.kind = "off the table";
-            if (chance(0.5))
-                table["balls"][chance(0.6) ? 0 : n] = {
-                    {"x", uniform(-1000, 3400)},
-                    {"y", chance(0.5) ? uniform(-500, 49.9) : uniform(1150.1, 1700)}};
-            else
-                table["balls"][0]["onTable"] = false;
-            break;
-        case 6:
-            in.kind = "truncated";
-            text = sane.dump();
-            text.resize(size_t(whole(1, int(text.size()) - 1)));
-            break;
-        case 7:
-            in.kind = "NUL byte";
-            text = sane.dump();
-            text.insert(size_t(whole(0, int(text.size()))), 1, '\0');
-            break;
-        case 8:
-            in.kind = "wrong type";
-            table = sane;
-            table[pick(leaves(sane, false))] =
-                pick(std::vector<json>{"600", json::array(), json::object(), true, nullptr});
-            break;
-        default: { // a break that the game could never play: aimed off the arc, or at no rack
-            in.kind = "false break";
-            const bool onTheArc = chance(0.5);
-            table = {{think ? "breakPending" : "break", true}};
-            table["aim"] = onTheArc ? swingAim() : anyAim();
-            if (onTheArc)
-                table["balls"] = balls();
-            break;
-        }
-        }
-        in.text = text.empty() ? table.dump() : text;
+        json& ball = table["balls"][whole(1, kBallCount - 1)];
+        std::string text = sane.dump();
+        const std::pair<const char*, std::function<std::string()>> kinds[] = {
+            {"sane", [&] { return text; }},
+            {"sane", [&] { return text; }},
+            {"huge", [&] { return withToken(sane, kHugeNumbers); }},
+            {"not a number", [&] { return withToken(sane, kNotNumbers); }},
+            {"truncated", [&] { return text.substr(0, size_t(whole(1, int(text.size()) - 1))); }},
+            {"NUL byte", [&] { return text.insert(size_t(whole(0, int(text.size()))), 1, '\0'); }},
+            {"wrong type",
+             [&] {
+                 json wrong = sane;
+                 wrong[pick(leaves(sane, false))] =
+                     pick(std::vector<json>{"600", json::array(), json::object(), true, nullptr});
+                 return wrong.dump();
+             }},
+            {"overlapping", // a ball closer to the cue ball than a ball's width
+             [&] {
+                 const double gap = uniform(0, 99.9), a = uniform(-kPi, kPi);
+                 ball = {{"x", table["balls"][0]["x"].get<double>() + gap * std::cos(a)},
+                         {"y", table["balls"][0]["y"].get<double>() + gap * std::sin(a)}};
+                 return table.dump();
+             }},
+            {"off the table", // outside the cushion lines yet on the table, or the cue ball gone
+             [&] {
+                 if (chance(0.5))
+                     (chance(0.6) ? table["balls"][0] : ball) = {
+                         {"x", uniform(-1000, 3400)},
+                         {"y", chance(0.5) ? uniform(-500, 49.9) : uniform(1150.1, 1700)}};
+                 else
+                     table["balls"][0]["onTable"] = false;
+                 return table.dump();
+             }},
+            {"false break", // aimed off the swing's arc, or at a table that is no rack
+             [&] {
+                 const bool onTheArc = chance(0.5);
+                 json input{{think ? "breakPending" : "break", true},
+                            {"aim", onTheArc ? swingAim() : anyAim()}};
+                 if (onTheArc)
+                     input["balls"] = balls();
+                 return input.dump();
+             }},
+        };
+        const auto& [kind, spoil] = kinds[size_t(whole(0, int(std::size(kinds)) - 1))];
+        in.kind = kind;
+        in.text = spoil();
         return in;
     }
 
