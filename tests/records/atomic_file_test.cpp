@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -19,20 +20,35 @@ namespace {
 
 class AtomicFile : public morvane::testing::TempHomeTest {
   protected:
+    const std::string oldText = "[SOLO]\nName01=Good Record\n";
+    const std::string newText = "[SOLO]\nName01=Another\nName02=Good Record\n";
+    const SaveStep steps[5] = {SaveStep::CreateTemporary, SaveStep::Write, SaveStep::FlushFile,
+                               SaveStep::Rename, SaveStep::FlushFolder};
+
     std::string file() const { return path("MVSCORE.INI"); }
-    std::vector<std::string> sortedEntries() const {
-        std::vector<std::string> names = folderEntries();
-        std::ranges::sort(names);
-        return names;
-    }
     void removeLeftovers() const { removeUnfinishedSaves(home_, {"MVSCORE.INI", "MORVANE.INI"}); }
 };
 
+TEST_F(AtomicFile, AStepThatFailsLeavesTheOldFileWholeAndSaysSoOnceUnlessTheNewIsInPlace) {
+    for (SaveStep failing : steps) {
+        writeFile("MVSCORE.INI", oldText);
+        setSaveStepHook([&](SaveStep step) { return step == failing ? ENOSPC : 0; });
+        ::testing::internal::CaptureStderr();
+        const bool written = writeFileAtomically(file(), newText);
+        const std::string said = ::testing::internal::GetCapturedStderr();
+        setSaveStepHook(nullptr);
+        const bool inPlace = failing == SaveStep::FlushFolder;
+        EXPECT_EQ(written, inPlace) << int(failing);
+        EXPECT_EQ(readFile("MVSCORE.INI"), inPlace ? newText : oldText) << int(failing);
+        EXPECT_EQ(folderEntries(), std::vector<std::string>{"MVSCORE.INI"}) << "no temporary";
+        EXPECT_EQ(said, inPlace ? ""
+                                : "morvane: could not save " + file() +
+                                      " (No space left on device); the change is lost\n");
+    }
+}
+
 TEST_F(AtomicFile, AKillAtAnyStepLeavesTheOldFileOrTheNewWholeAndTheNextStartClearsUp) {
-    const std::string oldText = "[SOLO]\nName01=Good Record\n";
-    const std::string newText = "[SOLO]\nName01=Another\nName02=Good Record\n";
-    for (SaveStep dying : {SaveStep::CreateTemporary, SaveStep::Write, SaveStep::FlushFile,
-                           SaveStep::Rename, SaveStep::FlushFolder}) {
+    for (SaveStep dying : steps) {
         writeFile("MVSCORE.INI", oldText);
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
@@ -78,8 +94,10 @@ TEST_F(AtomicFile, OnlyTheGamesOwnTemporaryNamesAreClearedAndNotOneThatASaveHold
     std::vector<std::string> expected = kept;
     expected.insert(expected.end(), {".MVSCORE.INI.Dir123", ".MVSCORE.INI.Link12",
                                      ".MVSCORE.INI.Held12", "elsewhere"});
+    std::vector<std::string> entries = folderEntries();
     std::ranges::sort(expected);
-    EXPECT_EQ(sortedEntries(), expected);
+    std::ranges::sort(entries);
+    EXPECT_EQ(entries, expected);
 }
 
 TEST_F(AtomicFile, ANewFileGetsTheModeTheUmaskLeavesAndAReplacedOneKeepsItsOwn) {

@@ -7,55 +7,69 @@ using namespace morvane;
 
 namespace {
 
-std::string afterSets(const std::string& file) {
-    IniDocument document(file);
-    document.set("solo", "Shots01", " 4");
-    document.set("SOLO", "Time01", " 60");
-    document.set("ZEPH", "LV", " 2");
-    return document.text();
-}
-
 TEST(IniDocument, EachFileKeepsItsOwnLineEndsAndNewLinesTakeThoseOfItsFirstLine) {
-    EXPECT_EQ(afterSets("[SOLO]\r\nShots01= 3\r\n\r\n[VSCPU]\r\nName01=Ann\r\n"),
-              "[SOLO]\r\nShots01= 4\r\nTime01= 60\r\n\r\n[VSCPU]\r\nName01=Ann\r\n"
-              "[ZEPH]\r\nLV= 2\r\n");
-    EXPECT_EQ(afterSets("[SOLO]\nShots01= 3\n"), "[SOLO]\nShots01= 4\nTime01= 60\n[ZEPH]\nLV= 2\n");
-    EXPECT_EQ(afterSets("; mixed\r\n[SOLO]\nShots01= 3\n[VSCPU]\r\nName01=Ann"),
-              "; mixed\r\n[SOLO]\nShots01= 4\nTime01= 60\r\n[VSCPU]\r\nName01=Ann\r\n"
-              "[ZEPH]\r\nLV= 2\r\n")
-        << "a changed line keeps its end; a last line without one gets the file's";
-    EXPECT_EQ(afterSets(""), "[solo]\nShots01= 4\nTime01= 60\n[ZEPH]\nLV= 2\n");
-    EXPECT_EQ(afterSets("\xEF\xBB\xBF[SOLO]\r\n"),
-              "\xEF\xBB\xBF[SOLO]\r\nShots01= 4\r\nTime01= 60\r\n[ZEPH]\r\nLV= 2\r\n");
-
+    const std::pair<std::string, std::string> cases[] = {
+        {"[SOLO]\r\nShots01= 3\r\n\r\n[VSCPU]\r\nName01=Ann\r\n",
+         "[SOLO]\r\nShots01= 4\r\nTime01= 60\r\n\r\n[VSCPU]\r\nName01=Ann\r\n[ZEPH]\r\nLV= 2\r\n"},
+        {"[SOLO]\nShots01= 3\n", "[SOLO]\nShots01= 4\nTime01= 60\n[ZEPH]\nLV= 2\n"},
+        // A changed line keeps its end; a last line without one gets the file's.
+        {"; mixed\r\n[SOLO]\nShots01= 3\n[VSCPU]\r\nName01=Ann",
+         "; mixed\r\n[SOLO]\nShots01= 4\nTime01= 60\r\n[VSCPU]\r\nName01=Ann\r\n[ZEPH]\r\nLV= "
+         "2\r\n"},
+        {"", "[solo]\nShots01= 4\nTime01= 60\n[ZEPH]\nLV= 2\n"},
+        {"\xEF\xBB\xBF[SOLO]\r\n",
+         "\xEF\xBB\xBF[SOLO]\r\nShots01= 4\r\nTime01= 60\r\n[ZEPH]\r\nLV= 2\r\n"},
+    };
+    for (const auto& [before, after] : cases) {
+        IniDocument document(before);
+        document.set("solo", "Shots01", " 4");
+        document.set("SOLO", "Time01", " 60");
+        document.set("ZEPH", "LV", " 2");
+        EXPECT_EQ(document.text(), after) << before;
+    }
     const std::string untouched = "\xEF\xBB\xBF; notes\r\n\r\n[S]\r\n  key =\t1 \r\n#x=2\n";
     EXPECT_EQ(IniDocument(untouched).text(), untouched) << "a file read and written back";
 }
 
 TEST(IniDocument, TheFirstOfEqualSectionsAndKeysCountsAndKeysOutsideASectionDont) {
-    const IniDocument document("top=0\n[S]\nKey=1\nkey=2\n[s]\nother=3\n[T]\nx = \n");
+    const IniDocument document("\xEF\xBB\xBFtop=0\n  [ S ]  \n; key=9\n  Key =\t 1 \t\nkey=2\n"
+                               "[s]\nother=3\n[T]\nx = \n");
     EXPECT_EQ(document.value("s", "KEY"), "1");
     EXPECT_EQ(document.value("S", "other"), std::nullopt) << "in the second [s]";
     EXPECT_EQ(document.value("", "top"), std::nullopt);
     EXPECT_EQ(document.value("T", "x"), "");
-    EXPECT_EQ(document.readInt("T", "x", 5), 0) << "an empty value is no number";
-    EXPECT_EQ(document.readInt("T", "y", 5), 5);
 
     IniDocument changed = document;
     changed.set("s", "other", "4");
-    EXPECT_EQ(changed.text(), "top=0\n[S]\nKey=1\nkey=2\nother=4\n[s]\nother=3\n[T]\nx = \n");
+    changed.set("T", "note", "two\nlines");
+    EXPECT_EQ(changed.text(), "\xEF\xBB\xBFtop=0\n  [ S ]  \n; key=9\n  Key =\t 1 \t\nkey=2\n"
+                              "other=4\n[s]\nother=3\n[T]\nx = \nnote=two lines\n");
 }
 
-TEST(IniDocument, TextsComeBackAsUtf8WhateverTheirBytes) {
-    const IniDocument document("[S]\nutf8=玉突き\nsjis=\x8B\xCA\x93\xCB\x82\xAB\n"
-                               "bad=A\xFF\xFE"
-                               "B\n");
+TEST(IniDocument, NumbersAreReadLenientlyAndTextsAsUtf8OfAtMost199Characters) {
+    std::string balls;
+    for (int i = 0; i < 300; ++i)
+        balls += "球";
+    const IniDocument document("[S]\nblank= 14\nminus=-1\nplus=+7\ntail=12abc\nword=abc\nempty=\n"
+                               "sign=-\nhuge=99999999999999\nhugeMinus=-99999999999999\n"
+                               "utf8=玉突き\nsjis=\x8B\xCA\x93\xCB\x82\xAB\nbad=A\xFF\xFE"
+                               "B\nlong=" +
+                               balls + "\n");
+    const std::pair<const char*, int32_t> numbers[] = {{"blank", 14},    {"minus", -1},
+                                                       {"plus", 7},      {"tail", 12},
+                                                       {"word", 0},      {"empty", 0},
+                                                       {"sign", 0},      {"huge", INT32_MAX},
+                                                       {"missing", -99}, {"hugeMinus", INT32_MIN}};
+    for (const auto& [key, value] : numbers)
+        EXPECT_EQ(document.readInt("S", key, -99), value) << key;
+
     EXPECT_EQ(document.readString("S", "utf8", ""), "玉突き");
     EXPECT_EQ(document.readString("S", "sjis", ""), "玉突き") << "read as Shift-JIS";
     EXPECT_EQ(document.readString("S", "bad", ""), "A\uFFFD\uFFFDB") << "neither: replaced";
     EXPECT_EQ(document.value("S", "bad"), "A\xFF\xFE"
                                           "B")
         << "the file itself keeps its bytes";
+    EXPECT_EQ(document.readString("S", "long", ""), balls.substr(0, 199 * 3)) << "not bytes";
 }
 
 } // namespace

@@ -44,12 +44,14 @@ class Ranking : public ::testing::Test {
         g.gameSeconds = seconds;
         return doseLankInVSCpu(g);
     }
-    std::vector<std::string> soloNames(int rows) const {
-        std::vector<std::string> names;
+    // The names of the first rows of a table, without their blanks.
+    template <typename Rows> static std::vector<std::string> names(const Rows& table, int rows) {
+        std::vector<std::string> found;
         for (int i = 1; i <= rows; ++i)
-            names.push_back(trimBlanks(g.soloRecords[i].Name));
-        return names;
+            found.push_back(trimBlanks(table[i].Name));
+        return found;
     }
+    std::vector<std::string> soloNames(int rows) const { return names(g.soloRecords, rows); }
     int markedSoloRow() const {
         for (int i = 1; i <= 10; ++i) {
             if (g.soloRecords[i].place == 11)
@@ -107,7 +109,11 @@ TEST_F(Ranking, TheSortTakesANameGivenLaterAndPutsAHandEditedTableRight) {
     EXPECT_EQ(soloNames(3), (Names{"edited", "Given", "zeph"}));
 }
 
-TEST_F(Ranking, MatchesGoByLevelThenWinsThenFewerLossesThenTime) {
+TEST_F(Ranking, MatchesGoByLevelThenWinsThenFewerLossesThenTimeAndALostOneNeverEnters) {
+    g.vsCpuRecords[11].Name = "untouched";
+    EXPECT_FALSE(endMatch("lost", 2, 3, 11));
+    EXPECT_FALSE(endMatch("drawn", 1, 1, 11));
+    EXPECT_EQ(g.vsCpuRecords[11].Name, "untouched") << "the working row left alone";
     for (auto [name, won, lost, level, seconds] : {std::tuple("3-0 L4", 3, 0, 4, 100),
                                                    {"7-0 L4", 7, 0, 4, 100},
                                                    {"3-0 L5", 3, 0, 5, 100},
@@ -117,21 +123,11 @@ TEST_F(Ranking, MatchesGoByLevelThenWinsThenFewerLossesThenTime) {
         ASSERT_TRUE(endMatch(name, int16_t(won), int16_t(lost), int16_t(level), int16_t(seconds)));
         sortVsCPURecord(g);
     }
-    Names names;
-    for (int i = 1; i <= 6; ++i)
-        names.push_back(trimBlanks(g.vsCpuRecords[i].Name));
-    EXPECT_EQ(names,
+    EXPECT_EQ(names(g.vsCpuRecords, 6),
               (Names{"3-2 L6", "3-0 L5", "3-1 L5 short", "3-1 L5 long", "7-0 L4", "3-0 L4"}));
     const VsCpuRecordType& newest = g.vsCpuRecords[3];
     EXPECT_EQ(std::tie(newest.place, newest.Time, newest.Date, newest.winRate),
               std::tuple(11, 200, "26/03/05", 0.75f));
-}
-
-TEST_F(Ranking, AMatchLostToZephNeverEntersAndLeavesTheWorkingRow) {
-    g.vsCpuRecords[11].Name = "untouched";
-    EXPECT_FALSE(endMatch("lost", 2, 3, 11));
-    EXPECT_FALSE(endMatch("drawn", 1, 1, 11));
-    EXPECT_EQ(g.vsCpuRecords[11].Name, "untouched");
 }
 
 TEST_F(Ranking, OnlyTheLatestInsertionStaysMarked) {

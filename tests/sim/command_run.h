@@ -3,7 +3,10 @@
 
 #include "sim/commands.h"
 
+#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+
+#include <algorithm>
 
 #include <sstream>
 #include <string>
@@ -31,6 +34,14 @@ inline CommandRun runTool(const std::vector<std::string>& args, const std::strin
     std::ostringstream err;
     const int status = morvane::sim::runCommand(args, in, out, err);
     return {status, out.str(), err.str()};
+}
+
+// A refusal: status 2, nothing on stdout, and one line on stderr that says what was wrong.
+inline void expectRefused(const CommandRun& run, const std::string& saying) {
+    EXPECT_EQ(run.status, 2) << run.err;
+    EXPECT_TRUE(run.out.empty()) << run.out;
+    EXPECT_EQ(std::ranges::count(run.err, '\n'), 1) << run.err;
+    EXPECT_NE(run.err.find(saying), std::string::npos) << run.err;
 }
 
 // The cue ball on the head spot and ball 1 at (x1, y1), the rest off the table; `rest` adds

@@ -11,22 +11,16 @@ using namespace morvane::sim;
 
 namespace {
 
-constexpr int kGames = 660;
-constexpr int kLevels = 11;
-
-class ManyDemoGames : public morvane::testing::TempHomeTest {};
+constexpr int kGamesALevel = 60;
 
 void expectSaneTable(const GameState& g, int shotsSeen) {
     for (int n = 0; n < kBallCount; ++n) {
         const BallType& b = g.Balls[n];
         ASSERT_FALSE(std::isnan(b.x) || std::isnan(b.y) || std::isnan(b.speed)) << "ball " << n;
         EXPECT_EQ(b.speed, 0) << "ball " << n << " at rest";
-        if (!b.onTable)
-            continue;
-        EXPECT_GE(b.x, kCushionLeftX) << "ball " << n;
-        EXPECT_LE(b.x, kCushionRightX) << "ball " << n;
-        EXPECT_GE(b.y, kCushionBottomY) << "ball " << n;
-        EXPECT_LE(b.y, kCushionTopY) << "ball " << n;
+        EXPECT_TRUE(!b.onTable || (b.x >= kCushionLeftX && b.x <= kCushionRightX &&
+                                   b.y >= kCushionBottomY && b.y <= kCushionTopY))
+            << "ball " << n << " at " << b.x << ", " << b.y;
     }
     EXPECT_TRUE(g.Balls[kNineBall].onTable) << "the nine stands until the shot that ends the game";
     EXPECT_EQ(g.shotCount, shotsSeen);
@@ -34,12 +28,13 @@ void expectSaneTable(const GameState& g, int shotsSeen) {
     EXPECT_LE(g.turnCount, g.shotCount);
 }
 
-TEST_F(ManyDemoGames, AllEndWithTheTableSaneAfterEveryShot) {
-    for (int level = 1; level <= kLevels; ++level) {
+TEST(ManyDemoGames, AllEndWithTheTableSaneAfterEveryShot) {
+    const morvane::testing::TempHome home;
+    for (int level = 1; level <= 11; ++level) {
         HeadlessSession session{uint64_t(level)};
         session.g.zephLevel = int16_t(level);
         StrategyTally tally;
-        for (int k = 0; k < kGames / kLevels; ++k) {
+        for (int k = 0; k < kGamesALevel; ++k) {
             int shots = 0;
             int racks = 0;
             const DemoGame game = playDemoGame(session, tally, [&](const GameState& g) {

@@ -6,10 +6,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <sstream>
 
-using morvane::sim::runCommand;
 using morvane::testing::CommandRun;
+using morvane::testing::expectRefused;
 using morvane::testing::runTool;
 using morvane::testing::twoBalls;
 using nlohmann::json;
@@ -27,64 +26,61 @@ json shotResult(const std::string& input, std::vector<std::string> options = {"-
     return json::parse(run.out);
 }
 
-} // namespace
-
-TEST(ShotCommand, FullPowerBreakRunsToRestAndReportsTheShot) {
-    const json r = shotResult(R"({"break": true, "aim": [1700, 600], "power": 100})");
-    ASSERT_EQ(r["balls"].size(), 10u);
-    EXPECT_EQ(r["firstHitBall"], 1);
-    EXPECT_TRUE(r["stopped"].get<bool>());
-    EXPECT_GT(r["frames"].get<int>(), 20);
-    const json& events = r["events"];
-    ASSERT_FALSE(events.empty());
-    EXPECT_EQ(events[0]["ball"], 0); // the cue ball reaching the rack
-    EXPECT_EQ(events[0]["partner"], 1);
-    for (const json& ball : r["balls"])
-        EXPECT_LE(ball["speed"].get<double>(), 0);
-    // Every ball listed as pocketed is off the table, and has its capture among the events.
-    for (const json& n : r["pocketed"]) {
-        EXPECT_FALSE(r["balls"][n.get<int>()]["onTable"].get<bool>());
-        EXPECT_TRUE(std::any_of(events.begin(), events.end(), [&](const json& e) {
-            return e["ball"] == n && e.contains("pocket");
-        }));
-    }
+// The two balls of twoBalls, one field of one ball changed.
+std::string withBall(int ball, const char* field, const json& value) {
+    json input = json::parse(twoBalls(900, 600, R"("aim": [0, 0])"));
+    input["balls"][ball][field] = value;
+    return input.dump();
 }
 
-TEST(ShotCommand, ABreakRunsFromWhereverTheCueBallStandsAlongTheSwingsArc) {
-    // The rack with the cue ball moved to the far corner, the aim at the end of the swing.
+} // namespace
+
+TEST(ShotCommand, ABreakFromWhereverTheCueBallStandsRunsToRestAndReportsTheShot) {
+    // Full power from the head spot, and the least power from the far corner along the arc.
     morvane::BallArray rack;
     morvane::rackBalls(rack);
-    json balls = json::array();
+    json corner = {{"break", true}, {"balls", json::array()}, {"power", 35}};
     for (const morvane::BallType& b : rack)
-        balls.push_back({{"x", b.x}, {"y", b.y}});
-    balls[0] = {{"x", 60}, {"y", 1140}};
-    const double side = 3.1415926 / 5.6;
-    const json input = {{"break", true},
-                        {"balls", balls},
-                        {"aim", {1800 - 100 * std::cos(side), 600 - 100 * std::sin(side)}},
-                        {"power", 35}};
-    const json r = shotResult(input.dump());
-    EXPECT_EQ(r["firstHitBall"], 1);
-    EXPECT_TRUE(r["stopped"].get<bool>());
-    EXPECT_EQ(r["events"][0]["partner"], 1) << "the cue ball reaches the rack";
+        corner["balls"].push_back({{"x", b.x}, {"y", b.y}});
+    corner["balls"][0] = {{"x", 60}, {"y", 1140}};
+    corner["aim"] = {1800 - 100 * std::cos(3.1415926 / 5.6), 600 - 100 * std::sin(3.1415926 / 5.6)};
+    for (const std::string& input :
+         {std::string(R"({"break": true, "aim": [1700, 600], "power": 100})"), corner.dump()}) {
+        const json r = shotResult(input);
+        ASSERT_EQ(r["balls"].size(), 10u);
+        EXPECT_EQ(r["firstHitBall"], 1);
+        EXPECT_TRUE(r["stopped"].get<bool>());
+        EXPECT_GT(r["frames"].get<int>(), 20);
+        const json& events = r["events"];
+        EXPECT_EQ(std::tie(events.at(0)["ball"], events.at(0)["partner"]), std::tuple(0, 1))
+            << "the cue ball reaches the rack first";
+        for (const json& ball : r["balls"])
+            EXPECT_LE(ball["speed"].get<double>(), 0);
+        // Every ball listed as pocketed is off the table, and has its capture among the events.
+        for (const json& n : r["pocketed"]) {
+            EXPECT_FALSE(r["balls"][n.get<int>()]["onTable"].get<bool>());
+            EXPECT_TRUE(std::ranges::any_of(
+                events, [&](const json& e) { return e["ball"] == n && e.contains("pocket"); }));
+        }
+    }
     EXPECT_EQ(shotResult(R"({"break": true})"),
               shotResult(R"({"break": true, "aim": [1700, 600]})"))
         << "without an aim the break goes straight at the rack";
 }
 
-TEST(ShotCommand, SameSeedSameShotAndTheSeedMatters) {
+TEST(ShotCommand, TheSeedDecidesTheShotAndTheTraceWritesALineAContact) {
     const std::string input = R"({"break": true, "aim": [1700, 600]})";
     EXPECT_EQ(shotResult(input), shotResult(input));
     EXPECT_NE(shotResult(input, {"--seed", "1"})["balls"],
               shotResult(input, {"--seed", "2"})["balls"]);
+    const CommandRun run = runShot(input, {"--seed", "4", "--trace"});
+    ASSERT_EQ(run.status, 0);
+    EXPECT_EQ(size_t(std::ranges::count(run.err, '\n')), json::parse(run.out)["events"].size());
 }
 
-TEST(ShotCommand, TraceWritesOneLinePerContact) {
-    const CommandRun run =
-        runShot(R"({"break": true, "aim": [1700, 600]})", {"--seed", "4", "--trace"});
-    ASSERT_EQ(run.status, 0);
-    const json r = json::parse(run.out);
-    EXPECT_EQ(size_t(std::count(run.err.begin(), run.err.end(), '\n')), r["events"].size());
+TEST(ShotCommand, BallsOnTheCushionLinesStandOnTheTable) {
+    for (const auto& [x, y] : {std::pair(50, 600), {2350, 600}, {1200, 50}, {1200, 1150}})
+        EXPECT_EQ(runShot(twoBalls(x, y, R"("aim": [0, 0])")).status, 0) << x << ", " << y;
 }
 
 TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
@@ -112,32 +108,18 @@ TEST(ShotCommand, BadInputGetsOneLineNamingTheFieldAndStatusTwo) {
         {R"({"break": true, "aim": [1790, 600]})", "aim"}, // on the apex ball
         {twoBalls(1800, 700, R"("aim": [1700, 600], "break": true)"), "balls"},
         {twoBalls(650, 640, R"("aim": [0, 0])"), "balls[1]"}, // 64 from the cue ball
-        {R"({"aim": [0, 0], "balls": [{"x": 600, "y": 600, "onTable": false}, {"x": 900, "y": 600},
-            {"x": 900, "y": 300}, {"x": 900, "y": 900}, {"x": 1200, "y": 300}, {"x": 1200, "y": 900},
-            {"x": 1500, "y": 300}, {"x": 1500, "y": 900}, {"x": 1800, "y": 300},
-            {"x": 1800, "y": 900}]})",
-         "balls[0]"},
-        {R"({"aim": [0, 0], "balls": [{"x": 600, "y": 600}, {"x": 900, "y": 600, "onTable": false},
-            {"x": -151, "y": 300, "onTable": false}, {"x": 900, "y": 900}, {"x": 1200, "y": 300},
-            {"x": 1200, "y": 900}, {"x": 1500, "y": 300}, {"x": 1500, "y": 900},
-            {"x": 1800, "y": 300}, {"x": 1800, "y": 900}]})",
-         "balls[2]"},
+        {withBall(0, "onTable", false), "balls[0]"},
+        {withBall(2, "x", -151), "balls[2]"}, // pocketed, yet beyond the table's frame
     };
-    for (const auto& [input, field] : cases) {
-        const CommandRun run = runShot(input);
-        EXPECT_EQ(run.status, 2) << input;
-        EXPECT_TRUE(run.out.empty()) << input;
-        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
-        EXPECT_NE(run.err.find(field + ":"), std::string::npos) << run.err;
-    }
+    for (const auto& [input, field] : cases)
+        expectRefused(runShot(input), field + ":");
     EXPECT_EQ(runShot("{}", {"--seed"}).status, 2);
     EXPECT_EQ(runShot("{}", {"--fast"}).status, 2);
 }
 
 TEST(Commands, UnknownOrMissingCommandIsRefused) {
-    std::istringstream in;
-    std::ostringstream out, err;
-    EXPECT_EQ(runCommand({"bounce"}, in, out, err), 2);
-    EXPECT_EQ(runCommand({}, in, out, err), 2);
-    EXPECT_NE(err.str().find("usage"), std::string::npos);
+    EXPECT_EQ(runTool({"bounce"}).status, 2);
+    const CommandRun none = runTool({});
+    EXPECT_EQ(none.status, 2);
+    EXPECT_NE(none.err.find("usage"), std::string::npos);
 }

@@ -1,6 +1,6 @@
 // The tunes read on the loading thread: the window's commands never wait for a file, a tune
 // asked to play before it is read starts once it is, a close always wins over a read still
-// under way, a closed tune is let go, and a broken file is reported once and stays silent.
+// under way, a closed tune is let go, and a broken file is found out by its reader.
 #include "sound/mixer_device.h"
 #include "sound/music_tracks.h"
 #include "sound/tune_file.h"
@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <future>
 #include <sstream>
 #include <utility>
@@ -88,49 +87,6 @@ TEST_F(Tunes, AClosedTuneIsFreedAndAnotherOpenOneIsKept) {
     tracks->command("close game1.mid");
     EXPECT_EQ(tracks->tunesInMemory(), 0);
     EXPECT_FALSE(tracks->isSounding());
-}
-
-// A folder of broken tunes: one that isn't MIDI at all, one cut short, one not there.
-class BrokenTunes : public ::testing::Test {
-  protected:
-    std::filesystem::path folder = std::filesystem::temp_directory_path() /
-                                   ("morvane-broken-tunes-" + std::to_string(getpid()));
-    ScopedEnv driver{"SDL_AUDIODRIVER", "dummy"};
-
-    void SetUp() override {
-        std::filesystem::create_directories(folder);
-        std::ofstream(folder / "menu.mid") << "RIFF, but no MIDI";
-        std::ifstream whole(runtimeFolder() / "game1.mid", std::ios::binary);
-        std::string bytes{std::istreambuf_iterator<char>(whole), {}};
-        std::ofstream(folder / "game1.mid", std::ios::binary) << bytes.substr(0, bytes.size() / 2);
-    }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-};
-
-TEST_F(BrokenTunes, EachIsReportedOnceAndStaysSilent) {
-    std::ostringstream said;
-    {
-        WarnOnce warnings(said);
-        MixerDevice device(warnings, kMixBufferSamples);
-        ASSERT_TRUE(device.isOpen());
-        LoadingWorker loader;
-        MusicTracks tracks(folder, warnings, loader, device.rate());
-        for (int round = 0; round < 3; ++round) {
-            for (const char* name : {"menu.mid", "game1.mid", "game2.mid"}) {
-                tracks.command(std::string("open ") + name);
-                tracks.command(std::string("play ") + name);
-                loader.waitUntilIdle();
-                EXPECT_EQ(tracks.playing(), "") << name;
-                EXPECT_FALSE(tracks.isSounding()) << name;
-                tracks.command(std::string("close ") + name);
-            }
-        }
-    }
-    const std::string text = said.str();
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3) << text;
-    EXPECT_NE(text.find("menu.mid: not a MIDI file"), std::string::npos) << text;
-    EXPECT_NE(text.find("game1.mid: a MIDI file cut short"), std::string::npos) << text;
-    EXPECT_NE(text.find("game2.mid: no such file"), std::string::npos) << text;
 }
 
 TEST(TuneFile, AWholeMidiFileHasNoProblemAndItsTracksMustEndInsideIt) {

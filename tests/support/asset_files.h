@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -9,8 +10,11 @@
 
 namespace morvane::testing {
 
+inline std::filesystem::path runtimeFolder() {
+    return MORVANE_RUNTIME_DIR;
+}
 inline std::string runtimePath(const std::string& name) {
-    return std::string(MORVANE_RUNTIME_DIR) + "/" + name;
+    return (runtimeFolder() / name).string();
 }
 
 inline std::vector<uint8_t> readBytes(const std::string& name) {

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -15,37 +14,53 @@
 
 namespace morvane::testing {
 
+// An environment variable set, or only kept, for the life of the guard, its old value put back
+// after.
+class ScopedEnv {
+  public:
+    explicit ScopedEnv(const char* name, const std::optional<std::string>& value = std::nullopt)
+        : name_(name) {
+        if (const char* old = std::getenv(name))
+            old_ = old;
+        if (value)
+            ::setenv(name, value->c_str(), 1);
+    }
+    ~ScopedEnv() {
+        if (old_)
+            ::setenv(name_, old_->c_str(), 1);
+        else
+            ::unsetenv(name_);
+    }
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+  private:
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
 // The folder for as long as the object lives; a fixture that has another base holds one.
 class TempHome {
+    // First, so that they are put back once the folder is gone.
+    ScopedEnv morvaneHome_{"MORVANE_HOME"}, xdgConfigHome_{"XDG_CONFIG_HOME"}, userHome_{"HOME"};
+
   public:
     TempHome() {
-        for (const char* name : {"MORVANE_HOME", "XDG_CONFIG_HOME", "HOME"}) {
-            const char* value = std::getenv(name);
-            saved_[name] = value ? std::optional<std::string>(value) : std::nullopt;
-        }
         std::string pattern =
             (std::filesystem::temp_directory_path() / "morvane-test-XXXXXX").string();
         if (::mkdtemp(pattern.data()) == nullptr)
             ADD_FAILURE() << "no temporary folder";
-        home = pattern + "/";
-        ::setenv("MORVANE_HOME", home.c_str(), 1);
+        home_ = pattern + "/";
+        ::setenv("MORVANE_HOME", home_.c_str(), 1);
     }
-
     ~TempHome() {
         std::error_code ignored;
-        std::filesystem::remove_all(home, ignored);
-        for (const auto& [name, value] : saved_) {
-            if (value)
-                ::setenv(name.c_str(), value->c_str(), 1);
-            else
-                ::unsetenv(name.c_str());
-        }
+        std::filesystem::remove_all(home_, ignored);
     }
-
     TempHome(const TempHome&) = delete;
     TempHome& operator=(const TempHome&) = delete;
 
-    std::string path(const std::string& name) const { return home + name; }
+    std::string path(const std::string& name) const { return home_ + name; }
 
     void writeFile(const std::string& name, const std::string& text) const {
         std::ofstream(path(name), std::ios::binary) << text;
@@ -68,38 +83,14 @@ class TempHome {
 
     std::vector<std::string> folderEntries() const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(home))
+        for (const auto& entry : std::filesystem::directory_iterator(home_))
             names.push_back(entry.path().filename().string());
         return names;
     }
 
-    std::string home;
-
-  private:
-    std::map<std::string, std::optional<std::string>> saved_;
-};
-
-class TempHomeTest : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        temp_.emplace();
-        home_ = temp_->home;
-    }
-
-    void TearDown() override { temp_.reset(); }
-
-    std::string path(const std::string& name) const { return temp_->path(name); }
-    void writeFile(const std::string& name, const std::string& text) const {
-        temp_->writeFile(name, text);
-    }
-    std::string readFile(const std::string& name) const { return temp_->readFile(name); }
-    std::vector<std::string> lines(const std::string& name) const { return temp_->lines(name); }
-    std::vector<std::string> folderEntries() const { return temp_->folderEntries(); }
-
     std::string home_;
-
-  private:
-    std::optional<TempHome> temp_;
 };
+
+class TempHomeTest : public ::testing::Test, public TempHome {};
 
 } // namespace morvane::testing
