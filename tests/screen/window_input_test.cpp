@@ -45,7 +45,8 @@ TEST_F(WindowInputTest, TheClientAreaIs540By378WithTheViewUnderTheBar) {
     EXPECT_EQ(QRect(0, 25, 540, 299), window->picPool()->geometry());
     EXPECT_EQ(QRect(2, 327, 45, 45), window->picSetPoint()->geometry());
     EXPECT_EQ(QRect(346, 347, 183, 25), window->picPocketedBalls()->geometry());
-    EXPECT_EQ(372, window->HScroll1()->geometry().bottom() + 1);
+    EXPECT_EQ(QRect(200, 327, 145, 45), window->cmdShot()->geometry());
+    EXPECT_EQ(QRect(49, 350, 149, 22), window->HScroll1()->geometry());
 }
 
 TEST_F(WindowInputTest, AClickOnTheBallPictureSetsTheHitPoint) {
@@ -83,24 +84,16 @@ TEST_F(WindowInputTest, TheRightButtonAimsOnTheTableAsTheLeftDoes) {
     EXPECT_FLOAT_EQ(440, g.controls.target.left);
 }
 
-TEST_F(WindowInputTest, TheCueBallIsTakenOnlyInsideItsGrabCircle) {
-    ASSERT_TRUE(g.breakPending);
+// The cue ball in hand is taken by a press inside its grab circle, dragged off the table and let
+// go there: it comes back inside the limits, and the table is redrawn with it there.
+TEST_F(WindowInputTest, TheCueBallDraggedOffTheTableComesBackInsideAndIsDrawnThere) {
     QWidget* view = window->picPool();
-    const float aimX = g.aimX;
-    const QPoint far = cueBallPixel() + QPoint(0, 30);
-    QTest::mousePress(view, Qt::LeftButton, {}, far);
-    EXPECT_FALSE(g.draggingCueBall);
-    EXPECT_EQ(aimX, g.aimX); // on the break a press elsewhere does nothing
-    QTest::mouseRelease(view, Qt::LeftButton, {}, far);
-
     QTest::mousePress(view, Qt::LeftButton, {}, cueBallPixel() + QPoint(3, 3));
     EXPECT_TRUE(g.draggingCueBall);
-    // Dragged off the table and let go there: it comes back inside the limits.
     QTest::mouseMove(view, QPoint(535, 20));
     QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(535, 20));
     EXPECT_FLOAT_EQ(pixelToTableX(500), g.Balls[0].x);
     EXPECT_FLOAT_EQ(pixelToTableY(40), g.Balls[0].y);
-    // The table was redrawn with the ball at its new place.
     EXPECT_EQ(restingColour(0), backPixel(500, 40));
 }
 
@@ -158,8 +151,8 @@ TEST_F(WindowInputTest, F2RacksANewGameAndTheShotButtonFires) {
     EXPECT_FALSE(g.breakPending);
 }
 
-// How many pixels of a widget's picture are close to a colour.
-int pixelsNear(QWidget* w, const QColor& colour) {
+// The share of a widget's picture close to a colour.
+double shareNear(QWidget* w, const QColor& colour) {
     const QImage picture = w->grab().toImage();
     int count = 0;
     for (int y = 0; y < picture.height(); ++y) {
@@ -170,7 +163,7 @@ int pixelsNear(QWidget* w, const QColor& colour) {
                      24;
         }
     }
-    return count;
+    return count / double(picture.width() * picture.height());
 }
 
 // The bar and the button wear the felt and the wood of the table where the toolkit's grey stood;
@@ -178,22 +171,16 @@ int pixelsNear(QWidget* w, const QColor& colour) {
 TEST_F(WindowInputTest, ThePowerBarAndShotWearTheTablesColours) {
     QPushButton* shot = window->cmdShot();
     QScrollBar* bar = window->HScroll1();
-    EXPECT_EQ(QRect(200, 327, 145, 45), shot->geometry());
-    EXPECT_EQ(QRect(49, 350, 149, 22), bar->geometry());
-    EXPECT_EQ(QString("Shot!"), shot->text());
-    ASSERT_TRUE(shot->isEnabled());
-    EXPECT_GT(pixelsNear(shot, kRailWood), 145 * 45 / 2);
-    EXPECT_GT(pixelsNear(shot, kDarkWood), 200); // the caption and the border
-    EXPECT_GT(pixelsNear(bar, kFeltGreen), 149 * 22 / 4);
-    EXPECT_GT(pixelsNear(bar, kRailWood), 100); // the handle and the end buttons
-
+    EXPECT_GT(shareNear(shot, kRailWood), 0.5);
+    EXPECT_GT(shareNear(shot, kDarkWood), 0.03); // the caption and the border
+    EXPECT_GT(shareNear(bar, kFeltGreen), 0.25);
+    EXPECT_GT(shareNear(bar, kRailWood), 0.03); // the handle and the end buttons
     g.controls.shotEnabled = false;
     g.controls.powerEnabled = false;
     window->syncControlsFromState();
-    ASSERT_FALSE(shot->isEnabled());
-    EXPECT_GT(pixelsNear(shot, kRailWoodDim), 145 * 45 / 2);
-    EXPECT_GT(pixelsNear(shot, kCreamCaption), 200);
-    EXPECT_GT(pixelsNear(bar, kRailWoodDim), 100);
+    EXPECT_GT(shareNear(shot, kRailWoodDim), 0.5);
+    EXPECT_GT(shareNear(shot, kCreamCaption), 0.03);
+    EXPECT_GT(shareNear(bar, kRailWoodDim), 0.03);
 }
 
 } // namespace
