@@ -40,7 +40,7 @@ class ShellTest : public ScreenTest {
         EXPECT_FALSE(window->isVisible()) << "hidden until the splash is over";
         OpeningForm* splash = shownSplash();
         ASSERT_NE(splash, nullptr);
-        QTest::mouseClick(splash, Qt::LeftButton); // a click cuts the splash short
+        QTest::mouseClick(splash, Qt::LeftButton); // a click cuts the splash short, before its time
         ASSERT_TRUE(window->isVisible());
         QCoreApplication::processEvents();
         EXPECT_EQ(shownSplash(), nullptr);
