@@ -3,6 +3,7 @@
 #include "screen_fixture.h"
 
 #include "picture_names.h"
+#include "rules/game_over.h"
 #include "screen/forms/match_form.h"
 #include "screen/forms/name_form.h"
 #include "screen/forms/opening_form.h"
@@ -234,6 +235,21 @@ TEST_F(EndOfGameFormsTest, TheResultPutsTheSideThatReachedTheTargetInMagenta) {
     screen->showVsResult();
     EXPECT_EQ(QString("Now, Break Time!"), texts[0]);
     EXPECT_EQ(std::vector<QColor>(5, kGreen), colours);
+}
+
+// A match to three through its forms: each game won is credited to the side at the table, and
+// only the third ends the match, the next one starting from nothing.
+TEST_F(EndOfGameFormsTest, AMatchEndsWhenASideReachesItsTargetAndNotBefore) {
+    g.gameMode = kModeVersus;
+    g.versusCpu = false;
+    g.players[0] = {"Ann", true, 0};
+    g.players[1] = {"Bo", false, 0};
+    for (int won : {1, 2, 0}) {
+        g.turnCount = 0; // Ann's turn
+        endGame(g);
+        EXPECT_EQ(won, g.players[0].gamesWon);
+        EXPECT_EQ(kModeVersus, g.gameMode);
+    }
 }
 
 TEST_F(EndOfGameFormsTest, TheSplashGoesOnItsSixthTick) {
