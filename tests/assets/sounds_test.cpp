@@ -1,5 +1,5 @@
-// The five effects are short 16-bit mono PCM WAVs that sound and don't clip, the clicks
-// rising in strength from vmin to vmax.
+// The five effects are short 16-bit mono PCM WAVs that sound and don't clip, the clicks rising in
+// strength from vmin to vmax, the click bright and the cushion dull.
 #include "support/asset_files.h"
 
 #include <cmath>
@@ -12,89 +12,78 @@ using namespace morvane::testing;
 struct Wav {
     uint32_t rate = 0;
     std::vector<int16_t> samples;
+
+    double peak() const {
+        int p = 0;
+        for (int16_t s : samples)
+            p = std::max(p, std::abs(int(s)));
+        return p / 32768.0;
+    }
+    double rms() const {
+        double sum = 0;
+        for (int16_t s : samples)
+            sum += (s / 32768.0) * (s / 32768.0);
+        return std::sqrt(sum / double(samples.size()));
+    }
+    // Zero crossings a second over the first 30 ms, where each sound has its body.
+    double crossingsPerSecond() const {
+        const size_t n = std::min(samples.size(), size_t(rate * 3 / 100));
+        int crossings = 0;
+        for (size_t i = 1; i < n; ++i)
+            crossings += (samples[i - 1] < 0) != (samples[i] < 0);
+        return crossings * double(rate) / double(n);
+    }
 };
 
 Wav readWav(const std::string& file) {
     const std::vector<uint8_t> b = readBytes(file);
     Wav w;
-    EXPECT_GE(b.size(), 44u) << file;
-    if (b.size() < 44)
+    if (b.size() < 44 || tag(b, 0, 4) != "RIFF" || tag(b, 8, 8) != "WAVEfmt " ||
+        tag(b, 36, 4) != "data") {
+        ADD_FAILURE() << file << " is no WAV";
         return w;
-    EXPECT_EQ(tag(b, 0, 4), "RIFF");
-    EXPECT_EQ(le32(b, 4), b.size() - 8);
-    EXPECT_EQ(tag(b, 8, 4), "WAVE");
-    EXPECT_EQ(tag(b, 12, 4), "fmt ");
-    EXPECT_EQ(le32(b, 16), 16u);
-    EXPECT_EQ(le16(b, 20), 1u) << "PCM";
-    EXPECT_EQ(le16(b, 22), 1u) << "mono";
+    }
     w.rate = le32(b, 24);
-    EXPECT_EQ(le32(b, 28), w.rate * 2);
-    EXPECT_EQ(le16(b, 32), 2u);
-    EXPECT_EQ(le16(b, 34), 16u);
-    EXPECT_EQ(tag(b, 36, 4), "data");
-    const uint32_t bytes = le32(b, 40);
-    EXPECT_EQ(bytes, b.size() - 44);
+    // RIFF size, fmt size, PCM, mono, bytes a second, bytes a sample, bits, data size.
+    const std::pair<size_t, uint32_t> fields[] = {{4, le32(b, 4) - uint32_t(b.size() - 8)},
+                                                  {16, le32(b, 16) - 16},
+                                                  {20, le16(b, 20) - 1},
+                                                  {22, le16(b, 22) - 1},
+                                                  {28, le32(b, 28) - 2 * w.rate},
+                                                  {32, le16(b, 32) - 2},
+                                                  {34, le16(b, 34) - 16},
+                                                  {40, le32(b, 40) - uint32_t(b.size() - 44)}};
+    for (const auto& [at, off] : fields)
+        EXPECT_EQ(0u, off) << file << " header at " << at;
     for (size_t i = 44; i + 1 < b.size(); i += 2)
-        w.samples.push_back(static_cast<int16_t>(le16(b, i)));
+        w.samples.push_back(int16_t(le16(b, i)));
     return w;
-}
-
-double peakOf(const Wav& w) {
-    int peak = 0;
-    for (int16_t s : w.samples)
-        peak = std::max(peak, std::abs(static_cast<int>(s)));
-    return peak / 32768.0;
-}
-
-double rmsOf(const Wav& w) {
-    double sum = 0;
-    for (int16_t s : w.samples)
-        sum += (s / 32768.0) * (s / 32768.0);
-    return std::sqrt(sum / static_cast<double>(w.samples.size()));
 }
 
 TEST(Sounds, EveryEffectIsAShortAudibleUnclippedMonoPcm) {
     for (const char* file : {"vmin.wav", "vmid.wav", "vmax.wav", "drop.wav", "meetwall.wav"}) {
+        SCOPED_TRACE(file);
         const Wav w = readWav(file);
-        ASSERT_FALSE(w.samples.empty()) << file;
-        EXPECT_TRUE(w.rate == 22050 || w.rate == 44100) << file;
-        const double seconds = static_cast<double>(w.samples.size()) / w.rate;
-        EXPECT_GT(seconds, 0.05) << file;
-        EXPECT_LT(seconds, 1.0) << file;
-        EXPECT_GT(peakOf(w), 0.2) << file;
-        EXPECT_LT(peakOf(w), 0.99) << file << " clips";
-        EXPECT_GT(rmsOf(w), 0.01) << file;
-        // A sound ends in silence, so that cutting it off makes no click.
-        EXPECT_LT(std::abs(w.samples.back()), 64) << file;
+        ASSERT_FALSE(w.samples.empty());
+        EXPECT_TRUE(w.rate == 22050 || w.rate == 44100);
+        const double seconds = double(w.samples.size()) / w.rate;
+        EXPECT_GT(seconds, 0.05);
+        EXPECT_LT(seconds, 1.0);
+        EXPECT_GT(w.peak(), 0.2);
+        EXPECT_LT(w.peak(), 0.99) << "clips";
+        EXPECT_GT(w.rms(), 0.01);
+        EXPECT_LT(std::abs(w.samples.back()), 64) << "cut off with a click";
     }
 }
 
-TEST(Sounds, ClicksRiseInStrengthAndTheDropOutlastsThem) {
+TEST(Sounds, ClicksRiseInStrengthTheDropOutlastsThemAndTheCushionIsDull) {
     const Wav soft = readWav("vmin.wav"), mid = readWav("vmid.wav"), hard = readWav("vmax.wav");
-    EXPECT_LT(peakOf(soft), peakOf(mid));
-    EXPECT_LT(peakOf(mid), peakOf(hard));
-    EXPECT_LT(rmsOf(soft), rmsOf(hard));
+    EXPECT_LT(soft.peak(), mid.peak());
+    EXPECT_LT(mid.peak(), hard.peak());
+    EXPECT_LT(soft.rms(), hard.rms());
     EXPECT_GT(readWav("drop.wav").samples.size(), 3 * hard.samples.size());
-}
-
-// Zero crossings a second: a bright tick crosses far more often than a dull thump.
-double crossingsPerSecond(const Wav& w) {
-    int crossings = 0;
-    for (size_t i = 1; i < w.samples.size(); ++i)
-        crossings += (w.samples[i - 1] < 0) != (w.samples[i] < 0);
-    return crossings * static_cast<double>(w.rate) / static_cast<double>(w.samples.size());
-}
-
-TEST(Sounds, TheClickIsBrightAndTheCushionDull) {
-    const Wav click = readWav("vmax.wav");
-    const Wav thump = readWav("meetwall.wav");
-    // Measured over the first 30 ms, where each sound has its body.
-    auto head = [](Wav w) {
-        w.samples.resize(std::min(w.samples.size(), static_cast<size_t>(w.rate * 3 / 100)));
-        return w;
-    };
-    EXPECT_GT(crossingsPerSecond(head(click)), 4000);
-    EXPECT_LT(crossingsPerSecond(head(thump)), 1500);
+    EXPECT_GT(hard.crossingsPerSecond(), 4000);
+    EXPECT_LT(readWav("meetwall.wav").crossingsPerSecond(), 1500);
 }
 
 } // namespace

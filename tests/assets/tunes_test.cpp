@@ -1,4 +1,5 @@
-// The five tunes parse as Standard MIDI Files and each plays a little over thirty seconds.
+// The five tunes parse as Standard MIDI Files and each plays a little over thirty seconds, every
+// part with an instrument and the game tunes with drums.
 #include "support/asset_files.h"
 
 #include <gtest/gtest.h>
@@ -9,49 +10,54 @@ namespace {
 
 using namespace morvane::testing;
 
-struct Parsed {
-    uint32_t format = 0, division = 0;
-    size_t declaredTracks = 0, tracks = 0;
-    std::map<uint32_t, uint32_t> tempos; // tick -> microseconds a quarter
-    uint32_t lastTick = 0;               // of any note-off
-    std::set<int> channelsWithProgram;
-    std::set<int> channelsWithNotes;
-    int unbalancedNotes = 0;
+struct Tune {
     bool wellFormed = true;
+    size_t tracks = 0, declared = 0;
+    uint32_t division = 0, lastTick = 0; // lastTick: of any note-off
+    std::map<uint32_t, uint32_t> tempos; // tick -> microseconds a quarter
+    std::set<int> programmed, played;    // channels
+    int unbalanced = 0;
+
+    double secondsAt(uint32_t tick) const {
+        double seconds = 0;
+        uint32_t from = 0, tempo = 500000;
+        for (const auto& [at, t] : tempos) {
+            if (at >= tick)
+                break;
+            seconds += double(at - from) * tempo / 1e6 / division;
+            from = at;
+            tempo = t;
+        }
+        return seconds + double(tick - from) * tempo / 1e6 / division;
+    }
 };
 
-uint32_t variableLength(const std::vector<uint8_t>& b, size_t& at) {
+uint32_t varLen(const std::vector<uint8_t>& b, size_t& at) {
     uint32_t v = 0;
-    for (int i = 0; i < 4; ++i) {
-        const uint8_t byte = b.at(at++);
+    for (uint8_t byte = 0x80; byte & 0x80;) {
+        byte = b.at(at++);
         v = (v << 7) | (byte & 0x7f);
-        if (!(byte & 0x80))
-            return v;
     }
     return v;
 }
 
-// Reads one track chunk's events; false if they don't end exactly with the end of track.
-bool parseTrack(const std::vector<uint8_t>& b, size_t at, size_t end, Parsed& p) {
+// One track's events: false unless they end with the end of track exactly at the chunk's end.
+bool readTrack(const std::vector<uint8_t>& b, size_t at, size_t end, Tune& t) {
     uint32_t tick = 0;
     uint8_t running = 0;
-    std::map<std::pair<int, int>, int> open;
+    std::map<int, int> open; // channel * 128 + key -> notes sounding
     while (at < end) {
-        tick += variableLength(b, at);
-        uint8_t st = b.at(at);
-        if (st & 0x80)
-            ++at;
-        else
-            st = running;
+        tick += varLen(b, at);
+        const uint8_t st = (b.at(at) & 0x80) ? b.at(at++) : running;
         if (st == 0xff) {
             const uint8_t type = b.at(at++);
-            const uint32_t len = variableLength(b, at);
+            const uint32_t len = varLen(b, at);
             if (type == 0x51)
-                p.tempos[tick] = (b.at(at) << 16) | (b.at(at + 1) << 8) | b.at(at + 2);
+                t.tempos[tick] = (b.at(at) << 16) | (b.at(at + 1) << 8) | b.at(at + 2);
             at += len;
             if (type == 0x2f) {
                 for (const auto& [key, n] : open)
-                    p.unbalancedNotes += n;
+                    t.unbalanced += n;
                 return at == end;
             }
             continue;
@@ -59,18 +65,16 @@ bool parseTrack(const std::vector<uint8_t>& b, size_t at, size_t end, Parsed& p)
         running = st;
         const int kind = st & 0xf0, channel = st & 0x0f;
         if (kind == 0xc0) {
-            p.channelsWithProgram.insert(channel);
+            t.programmed.insert(channel);
             at += 1;
         } else if (kind == 0x90 || kind == 0x80) {
-            const int key = b.at(at), velocity = b.at(at + 1);
+            const bool on = kind == 0x90 && b.at(at + 1) > 0;
+            open[channel * 128 + b.at(at)] += on ? 1 : -1;
+            if (on)
+                t.played.insert(channel);
+            else
+                t.lastTick = std::max(t.lastTick, tick);
             at += 2;
-            if (kind == 0x90 && velocity > 0) {
-                ++open[{channel, key}];
-                p.channelsWithNotes.insert(channel);
-            } else {
-                --open[{channel, key}];
-                p.lastTick = std::max(p.lastTick, tick);
-            }
         } else if (kind == 0xb0 || kind == 0xe0 || kind == 0xa0) {
             at += 2;
         } else {
@@ -80,72 +84,39 @@ bool parseTrack(const std::vector<uint8_t>& b, size_t at, size_t end, Parsed& p)
     return false;
 }
 
-Parsed parseMidi(const std::string& file) {
+Tune readTune(const std::string& file) {
     const std::vector<uint8_t> b = readBytes(file);
-    Parsed p;
-    if (b.size() < 14 || tag(b, 0, 4) != "MThd" || be32(b, 4) != 6) {
-        p.wellFormed = false;
-        return p;
-    }
-    p.format = be16(b, 8);
-    p.declaredTracks = be16(b, 10);
-    p.division = be16(b, 12);
-    size_t at = 14;
-    while (at < b.size()) {
-        if (at + 8 > b.size() || tag(b, at, 4) != "MTrk") {
-            p.wellFormed = false;
-            return p;
-        }
-        const size_t end = at + 8 + be32(b, at + 4);
-        if (end > b.size() || !parseTrack(b, at + 8, end, p)) {
-            p.wellFormed = false;
-            return p;
-        }
-        ++p.tracks;
+    Tune t;
+    t.wellFormed = false;
+    if (b.size() < 14 || tag(b, 0, 4) != "MThd" || be32(b, 4) != 6 || be16(b, 8) > 1)
+        return t;
+    t.declared = be16(b, 10);
+    t.division = be16(b, 12);
+    for (size_t at = 14; at < b.size(); ++t.tracks) {
+        const size_t end = at + 8 + (at + 8 <= b.size() ? be32(b, at + 4) : 0);
+        if (end > b.size() || tag(b, at, 4) != "MTrk" || !readTrack(b, at + 8, end, t))
+            return t;
         at = end;
     }
-    return p;
+    t.wellFormed = true;
+    return t;
 }
 
-double secondsAt(const Parsed& p, uint32_t tick) {
-    double seconds = 0;
-    uint32_t from = 0, tempo = 500000; // the default: 120 beats a minute
-    for (const auto& [at, t] : p.tempos) {
-        if (at >= tick)
-            break;
-        seconds += double(at - from) * tempo / 1e6 / p.division;
-        from = at;
-        tempo = t;
-    }
-    return seconds + double(tick - from) * tempo / 1e6 / p.division;
-}
-
-TEST(Tunes, EachTuneIsAWellFormedMidiFileOfAboutHalfAMinute) {
+TEST(Tunes, EachIsAWellFormedMidiFileOfAboutHalfAMinuteWithAnInstrumentForEveryPart) {
     for (const char* file : {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"}) {
-        const Parsed p = parseMidi(file);
-        ASSERT_TRUE(p.wellFormed) << file;
-        EXPECT_LE(p.format, 1u) << file;
-        EXPECT_EQ(p.tracks, p.declaredTracks) << file;
-        EXPECT_GE(p.tracks, 4u) << file;
-        EXPECT_EQ(p.unbalancedNotes, 0) << file;
-        const double seconds = secondsAt(p, p.lastTick);
-        EXPECT_GE(seconds, 32.0) << file;
-        EXPECT_LE(seconds, 40.0) << file;
+        SCOPED_TRACE(file);
+        const Tune t = readTune(file);
+        ASSERT_TRUE(t.wellFormed);
+        EXPECT_EQ(t.tracks, t.declared);
+        EXPECT_GE(t.tracks, 4u);
+        EXPECT_EQ(t.unbalanced, 0);
+        EXPECT_GE(t.secondsAt(t.lastTick), 32.0);
+        EXPECT_LE(t.secondsAt(t.lastTick), 40.0);
+        EXPECT_GE(t.played.size(), 3u);
+        for (int channel : t.played)
+            EXPECT_TRUE(channel == 9 || t.programmed.count(channel)) << "channel " << channel;
+        EXPECT_TRUE(!std::string(file).starts_with("game") || t.played.count(9)) << "drums";
     }
-}
-
-TEST(Tunes, EveryPartHasAnInstrumentAndTheGameTunesHaveDrums) {
-    for (const char* file : {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"}) {
-        const Parsed p = parseMidi(file);
-        for (int channel : p.channelsWithNotes) {
-            if (channel != 9) {
-                EXPECT_TRUE(p.channelsWithProgram.count(channel)) << file << " channel " << channel;
-            }
-        }
-        EXPECT_GE(p.channelsWithNotes.size(), 3u) << file;
-    }
-    for (const char* file : {"game1.mid", "game2.mid", "game3.mid"})
-        EXPECT_TRUE(parseMidi(file).channelsWithNotes.count(9)) << file;
 }
 
 } // namespace

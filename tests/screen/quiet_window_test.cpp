@@ -62,7 +62,7 @@ TEST_F(QuietWindowTest, WithNoTimerOnTheDriverSleepsUntilAnEventComes) {
     EXPECT_EQ(wakeWhenIdle(driver), -1);
 }
 
-TEST_F(QuietWindowTest, TheDriverWakesWhenTheNextTimerIsDueAndNotBefore) {
+TEST_F(QuietWindowTest, TheDriverWakesWhenTheNextTimerIsDueOrAHandlerSwitchesOneOn) {
     setTimerEnabled(g, kTimDemo, true);
     TimerDriver driver(g, nullptr, nullptr);
     driver.start();
@@ -70,18 +70,11 @@ TEST_F(QuietWindowTest, TheDriverWakesWhenTheNextTimerIsDueAndNotBefore) {
     const int wake = wakeWhenIdle(driver);
     EXPECT_GT(wake, 900);
     EXPECT_LE(wake, 1000);
-}
-
-TEST_F(QuietWindowTest, ATimerAHandlerSwitchesOnIsSeenBeforeTheLoopWaits) {
-    setTimerEnabled(g, kTimDemo, true);
-    TimerDriver driver(g, nullptr, nullptr);
-    driver.start();
-    wakeWhenIdle(driver);
     // A click's handler racks a game: the break swing starts at once, not a second later.
     EXPECT_LE(wakeWhenIdle(driver, [&] { setTimerEnabled(g, kTimer2, true); }), 10);
 }
 
-TEST_F(QuietWindowTest, UnderTheMenuTheRestingSwingWakesNobody) {
+TEST_F(QuietWindowTest, UnderTheMenuOrMinimisedTheRestingSwingWakesNobody) {
     setTimerEnabled(g, kTimDemo, true);
     setTimerEnabled(g, kTimer2, true);
     g.controls.menuVisible = true;
@@ -90,22 +83,15 @@ TEST_F(QuietWindowTest, UnderTheMenuTheRestingSwingWakesNobody) {
     EXPECT_GT(wakeWhenIdle(driver), 900);
     // Solo Play takes the menu away: the swing goes on at once.
     EXPECT_LE(wakeWhenIdle(driver, [&] { g.controls.menuVisible = false; }), 10);
-}
-
-TEST_F(QuietWindowTest, MinimisedTheSwingWakesNobody) {
-    setTimerEnabled(g, kTimDemo, true);
-    setTimerEnabled(g, kTimer2, true);
+    // Down in the task bar it rests again, and brought back it swings at once.
     window->show();
-    TimerDriver driver(g, nullptr, nullptr);
-    driver.start();
-    window->showMinimized();
-    EXPECT_GT(wakeWhenIdle(driver), 900);
-    // Brought back from the task bar, the table swings again at once.
+    EXPECT_GT(wakeWhenIdle(driver, [&] { window->showMinimized(); }), 900);
     EXPECT_LE(wakeWhenIdle(driver, [&] { window->showNormal(); }), 10);
     window->hide();
 }
 
-TEST_F(QuietWindowTest, NothingChangedRepaintsNothing) {
+TEST_F(QuietWindowTest, NothingChangedRepaintsNothingAndAMarkerMovedByAPixelIsDrawnThere) {
+    screen->drawTable();
     window->show();
     g.controls.target = {300, 100, true};
     window->syncControlsFromState();
@@ -113,33 +99,22 @@ TEST_F(QuietWindowTest, NothingChangedRepaintsNothing) {
     PaintCounter view(window->picPool());
     PaintCounter whole(window.get());
     window->syncControlsFromState(); // as after a tick of the idle count
-    settle();
-    EXPECT_EQ(view.paints, 0);
-    EXPECT_EQ(whole.paints, 0);
     // The swing moves the marker by less than half a pixel: nothing shows, nothing paints.
     g.controls.target.top = 100.4f;
     window->syncControlsFromState();
     settle();
     EXPECT_EQ(view.paints, 0);
     // A pixel or more shows, and the view alone paints it.
-    g.controls.target.top = 101.6f;
+    g.controls.target = {300.4f, 102.6f, true}; // drawn from (300, 103)
     window->syncControlsFromState();
     settle();
     EXPECT_EQ(view.paints, 1);
     EXPECT_EQ(whole.paints, 0);
-    window->hide();
-}
-
-TEST_F(QuietWindowTest, AMarkerMovedByAPixelIsDrawnThere) {
-    screen->drawTable();
-    g.controls.target = {300, 100, true};
-    window->syncControlsFromState();
-    g.controls.target = {300.4f, 102.6f, true}; // drawn from (300, 103)
-    window->syncControlsFromState();
     const QImage shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(qRgb(0, 255, 255), shown.pixel(300, 113) | 0xff000000);
     EXPECT_EQ(kCloth, shown.pixel(310, 113) | 0xff000000);
     EXPECT_EQ(kCloth, shown.pixel(300, 101) | 0xff000000);
+    window->hide();
 }
 
 TEST_F(QuietWindowTest, TheSwingDrawsItsMarkerAtMostOnceAFrame) {
