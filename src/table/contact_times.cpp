@@ -10,7 +10,7 @@ namespace morvane {
 
 namespace {
 
-constexpr double kReachMargin = 1;
+constexpr float kReachMargin = 1;
 
 // Time for a coordinate moving at velocity v to reach the line; 0 if already beyond it.
 float timeToLine(float line, float position, float v) {
@@ -23,14 +23,58 @@ double paceOf(const BallType& b) {
     return std::sqrt(double(b.vx) * b.vx + double(b.vy) * b.vy);
 }
 
-// A cheap test that two balls, together running no faster than reach, cannot touch within the
-// time limit. It never turns away a pair whose timeToBall would be within the limit: it keeps a
-// margin of a whole table unit, far beyond any rounding.
-bool isOutOfReach(const BallType& bi, const BallType& bj, double reach, double limit) {
+// The reach test is worked for four balls at a time, in lanes of floats.
+constexpr int kLanes = 4;
+constexpr int kLaneGroups = (kBallCount + kLanes - 1) / kLanes;
+using Lanes = float __attribute__((vector_size(kLanes * sizeof(float))));
+using LaneTruths = int32_t __attribute__((vector_size(kLanes * sizeof(int32_t))));
+
+// Where each ball stands and how far it runs in one time unit, ball k in lane k % 4 of group
+// k / 4; the lanes past the last ball stay empty.
+struct Reaches {
+    std::array<Lanes, kLaneGroups> x{};
+    std::array<Lanes, kLaneGroups> y{};
+    std::array<Lanes, kLaneGroups> pace{};
+
+    // The balls that ball i, at (x, y) with its pace, may touch within the limit. It never turns
+    // away a pair whose timeToBall would be within the limit: it keeps a margin of a whole table
+    // unit, far beyond the rounding of floats over a table of a few thousand units.
+    unsigned near(float xi, float yi, float pacei, float limit) const {
+        const float reachOfI = kContactDistance + pacei * limit + kReachMargin;
+        // Ball k's truth is kept as bit k, in the lane where it was found.
+        const auto nearInGroup = [&](int g) {
+            const Lanes dx = xi - x[g];
+            const Lanes dy = yi - y[g];
+            const Lanes within = reachOfI + pace[g] * limit;
+            const LaneTruths isNear = !(dx * dx + dy * dy > within * within);
+            return isNear & (LaneTruths{1, 2, 4, 8} << (g * kLanes));
+        };
+        static_assert(kLaneGroups == 3, "the groups are taken one by one");
+        const LaneTruths found = nearInGroup(0) | nearInGroup(1) | nearInGroup(2);
+        return unsigned(found[0] | found[1] | found[2] | found[3]);
+    }
+};
+
+// The earlier root of |p + v t| = 100, with p and v the position and velocity of i less j's,
+// for two balls on the table.
+inline float timeBetween(const BallType& bi, const BallType& bj) {
     const double dx = double(bi.x) - bj.x;
     const double dy = double(bi.y) - bj.y;
-    const double within = double(kContactDistance) + reach * limit + kReachMargin;
-    return dx * dx + dy * dy > within * within;
+    const double dvx = double(bi.vx) - bj.vx;
+    const double dvy = double(bi.vy) - bj.vy;
+
+    const double b = -(dx * dvx + dy * dvy);
+    if (b <= 0)
+        return kNoContactTime; // not closing
+    const double a = dvx * dvx + dvy * dvy;
+    if (a == 0)
+        return kNoContactTime;
+    const double cross = dy * dvx - dx * dvy;
+    const double d = double(kContactDistance) * kContactDistance * a - cross * cross;
+    if (d <= 0)
+        return kNoContactTime; // they pass without touching
+    const double t = (b - std::sqrt(d)) / a;
+    return t < 0 ? 0.0f : float(t); // already overlapping: at once
 }
 
 } // namespace
@@ -52,41 +96,30 @@ float timeToCushion(const BallType& b, int cushionId) {
     }
 }
 
-// The earlier root of |p + v t| = 100, with p and v the position and velocity of i less j's.
 float timeToBall(const BallType& bi, const BallType& bj) {
     if (!bi.onTable || !bj.onTable)
         return kNoContactTime;
-    const double dx = double(bi.x) - bj.x;
-    const double dy = double(bi.y) - bj.y;
-    const double dvx = double(bi.vx) - bj.vx;
-    const double dvy = double(bi.vy) - bj.vy;
-
-    const double b = -(dx * dvx + dy * dvy);
-    if (b <= 0)
-        return kNoContactTime; // not closing
-    const double a = dvx * dvx + dvy * dvy;
-    if (a == 0)
-        return kNoContactTime;
-    const double cross = dy * dvx - dx * dvy;
-    const double d = double(kContactDistance) * kContactDistance * a - cross * cross;
-    if (d <= 0)
-        return kNoContactTime; // they pass without touching
-    const double t = (b - std::sqrt(d)) / a;
-    return t < 0 ? 0.0f : float(t); // already overlapping: at once
+    return timeBetween(bi, bj);
 }
 
 // A pair is offered once: from the lower moving ball's side, as the full search did first, since
 // the other side gives the very same time and could only tie. Pairs too far apart to touch
 // before the best time so far, or before the frame's end, are not worked out: past the frame's
-// end any contact is as good as none.
+// end any contact is as good as none. A moving ball's cushions are asked before its pairs, so the
+// best time so far is as short as it can be when the pairs within its reach are picked out.
 NextContact findNextContact(const BallArray& balls, float timeLeft) {
     unsigned onTable = 0;
     unsigned moving = 0;
-    std::array<double, kBallCount> pace;
+    Reaches reaches;
+    std::array<float, kBallCount> pace;
     for (int k = 0; k < kBallCount; ++k) {
-        onTable |= balls[k].onTable ? 1u << k : 0;
-        moving |= isMoving(balls[k]) ? 1u << k : 0;
-        pace[k] = paceOf(balls[k]);
+        const BallType& b = balls[k];
+        onTable |= b.onTable ? 1u << k : 0;
+        moving |= isMoving(b) ? 1u << k : 0;
+        pace[k] = float(paceOf(b));
+        reaches.x[k / kLanes][k % kLanes] = b.x;
+        reaches.y[k / kLanes][k % kLanes] = b.y;
+        reaches.pace[k / kLanes][k % kLanes] = pace[k];
     }
     NextContact next;
     for (unsigned rest = moving; rest != 0; rest &= rest - 1) {
@@ -94,20 +127,21 @@ NextContact findNextContact(const BallArray& balls, float timeLeft) {
         const BallType& bi = balls[i];
         // A cushion that the ball runs away from or along gives no contact: it is not asked.
         if (bi.vx < 0)
-            next.offer(timeToCushion(bi, kCushionLeft), i, kCushionLeft);
+            next.offer(timeToLine(kCushionLeftX, bi.x, bi.vx), i, kCushionLeft);
         if (bi.vx > 0)
-            next.offer(timeToCushion(bi, kCushionRight), i, kCushionRight);
+            next.offer(timeToLine(kCushionRightX, bi.x, bi.vx), i, kCushionRight);
         if (bi.vy > 0)
-            next.offer(timeToCushion(bi, kCushionTop), i, kCushionTop);
+            next.offer(timeToLine(kCushionTopY, bi.y, bi.vy), i, kCushionTop);
         if (bi.vy < 0)
-            next.offer(timeToCushion(bi, kCushionBottom), i, kCushionBottom);
+            next.offer(timeToLine(kCushionBottomY, bi.y, bi.vy), i, kCushionBottom);
         const unsigned lowerMoving = moving & ((1u << i) - 1);
-        for (unsigned partners = onTable & ~lowerMoving & ~(1u << i); partners != 0;
-             partners &= partners - 1) {
+        unsigned partners = onTable & ~lowerMoving & ~(1u << i);
+        if (partners == 0)
+            continue;
+        partners &= reaches.near(bi.x, bi.y, pace[i], minOf(next.time, timeLeft));
+        for (; partners != 0; partners &= partners - 1) {
             const int j = std::countr_zero(partners);
-            const double limit = minOf(double(next.time), double(timeLeft));
-            if (!isOutOfReach(bi, balls[j], pace[i] + pace[j], limit))
-                next.offer(timeToBall(bi, balls[j]), i, j);
+            next.offer(timeBetween(bi, balls[j]), i, j);
         }
     }
     return next;
