@@ -5,6 +5,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <cstring>
 
 namespace morvane {
 
@@ -18,9 +19,10 @@ float timeToLine(float line, float position, float v) {
     return t < 0 ? 0.0f : float(t);
 }
 
-// How far a ball runs in one time unit: the length of its velocity.
-double paceOf(const BallType& b) {
-    return std::sqrt(double(b.vx) * b.vx + double(b.vy) * b.vy);
+// How far a ball runs in one time unit: the length of its velocity, near enough for a test with
+// a whole unit of margin.
+float paceOf(const BallType& b) {
+    return std::sqrt(b.vx * b.vx + b.vy * b.vy);
 }
 
 // The reach test is worked for four balls at a time, in lanes of floats.
@@ -32,20 +34,28 @@ using LaneTruths = int32_t __attribute__((vector_size(kLanes * sizeof(int32_t)))
 // Where each ball stands and how far it runs in one time unit, ball k in lane k % 4 of group
 // k / 4; the lanes past the last ball stay empty.
 struct Reaches {
-    std::array<Lanes, kLaneGroups> x{};
-    std::array<Lanes, kLaneGroups> y{};
-    std::array<Lanes, kLaneGroups> pace{};
+    alignas(sizeof(Lanes)) std::array<float, kLaneGroups * kLanes> x{};
+    alignas(sizeof(Lanes)) std::array<float, kLaneGroups * kLanes> y{};
+    alignas(sizeof(Lanes)) std::array<float, kLaneGroups * kLanes> pace{};
 
-    // The balls that ball i, at (x, y) with its pace, may touch within the limit. It never turns
+    static Lanes group(const std::array<float, kLaneGroups * kLanes>& values, int g) {
+        Lanes lanes;
+        std::memcpy(&lanes, &values[size_t(g * kLanes)], sizeof lanes);
+        return lanes;
+    }
+
+    // The balls that ball i may touch within the limit. It never turns
     // away a pair whose timeToBall would be within the limit: it keeps a margin of a whole table
     // unit, far beyond the rounding of floats over a table of a few thousand units.
-    unsigned near(float xi, float yi, float pacei, float limit) const {
-        const float reachOfI = kContactDistance + pacei * limit + kReachMargin;
+    unsigned near(int i, float limit) const {
+        const float xi = x[size_t(i)];
+        const float yi = y[size_t(i)];
+        const float reachOfI = kContactDistance + pace[size_t(i)] * limit + kReachMargin;
         // Ball k's truth is kept as bit k, in the lane where it was found.
         const auto nearInGroup = [&](int g) {
-            const Lanes dx = xi - x[g];
-            const Lanes dy = yi - y[g];
-            const Lanes within = reachOfI + pace[g] * limit;
+            const Lanes dx = xi - group(x, g);
+            const Lanes dy = yi - group(y, g);
+            const Lanes within = reachOfI + group(pace, g) * limit;
             const LaneTruths isNear = !(dx * dx + dy * dy > within * within);
             return isNear & (LaneTruths{1, 2, 4, 8} << (g * kLanes));
         };
@@ -111,34 +121,34 @@ NextContact findNextContact(const BallArray& balls, float timeLeft) {
     unsigned onTable = 0;
     unsigned moving = 0;
     Reaches reaches;
-    std::array<float, kBallCount> pace;
-    for (int k = 0; k < kBallCount; ++k) {
+    for (size_t k = 0; k < kBallCount; ++k) {
         const BallType& b = balls[k];
-        onTable |= b.onTable ? 1u << k : 0;
-        moving |= isMoving(b) ? 1u << k : 0;
-        pace[k] = float(paceOf(b));
-        reaches.x[k / kLanes][k % kLanes] = b.x;
-        reaches.y[k / kLanes][k % kLanes] = b.y;
-        reaches.pace[k / kLanes][k % kLanes] = pace[k];
+        onTable |= unsigned(b.onTable) << k;
+        moving |= unsigned(isMoving(b)) << k;
+        reaches.x[k] = b.x;
+        reaches.y[k] = b.y;
+        reaches.pace[k] = paceOf(b);
     }
     NextContact next;
     for (unsigned rest = moving; rest != 0; rest &= rest - 1) {
         const int i = std::countr_zero(rest);
         const BallType& bi = balls[i];
         // A cushion that the ball runs away from or along gives no contact: it is not asked.
-        if (bi.vx < 0)
-            next.offer(timeToLine(kCushionLeftX, bi.x, bi.vx), i, kCushionLeft);
-        if (bi.vx > 0)
-            next.offer(timeToLine(kCushionRightX, bi.x, bi.vx), i, kCushionRight);
-        if (bi.vy > 0)
-            next.offer(timeToLine(kCushionTopY, bi.y, bi.vy), i, kCushionTop);
-        if (bi.vy < 0)
-            next.offer(timeToLine(kCushionBottomY, bi.y, bi.vy), i, kCushionBottom);
+        if (bi.vx < 0 || bi.vx > 0) {
+            const bool left = bi.vx < 0;
+            next.offer(timeToLine(left ? kCushionLeftX : kCushionRightX, bi.x, bi.vx), i,
+                       left ? kCushionLeft : kCushionRight);
+        }
+        if (bi.vy < 0 || bi.vy > 0) {
+            const bool top = bi.vy > 0;
+            next.offer(timeToLine(top ? kCushionTopY : kCushionBottomY, bi.y, bi.vy), i,
+                       top ? kCushionTop : kCushionBottom);
+        }
         const unsigned lowerMoving = moving & ((1u << i) - 1);
         unsigned partners = onTable & ~lowerMoving & ~(1u << i);
         if (partners == 0)
             continue;
-        partners &= reaches.near(bi.x, bi.y, pace[i], minOf(next.time, timeLeft));
+        partners &= reaches.near(i, minOf(next.time, timeLeft));
         for (; partners != 0; partners &= partners - 1) {
             const int j = std::countr_zero(partners);
             next.offer(timeBetween(bi, balls[j]), i, j);
