@@ -19,6 +19,13 @@ float timeToLine(float line, float position, float v) {
     return t < 0 ? 0.0f : float(t);
 }
 
+// A cheap test that a coordinate moving at velocity v towards the line may reach it within the
+// limit, with a whole unit of margin; one already beyond the line reaches it at once.
+bool isLineWithinReach(float line, float position, float v, float limit) {
+    const float gap = v < 0 ? position - line : line - position;
+    return !(gap > std::fabs(v) * limit + kReachMargin);
+}
+
 // How far a ball runs in one time unit: the length of its velocity, near enough for a test with
 // a whole unit of margin.
 float paceOf(const BallType& b) {
@@ -136,13 +143,15 @@ NextContact findNextContact(const BallArray& balls, float timeLeft) {
         // A cushion that the ball runs away from or along gives no contact: it is not asked.
         if (bi.vx < 0 || bi.vx > 0) {
             const bool left = bi.vx < 0;
-            next.offer(timeToLine(left ? kCushionLeftX : kCushionRightX, bi.x, bi.vx), i,
-                       left ? kCushionLeft : kCushionRight);
+            const float line = left ? kCushionLeftX : kCushionRightX;
+            if (isLineWithinReach(line, bi.x, bi.vx, minOf(next.time, timeLeft)))
+                next.offer(timeToLine(line, bi.x, bi.vx), i, left ? kCushionLeft : kCushionRight);
         }
         if (bi.vy < 0 || bi.vy > 0) {
             const bool top = bi.vy > 0;
-            next.offer(timeToLine(top ? kCushionTopY : kCushionBottomY, bi.y, bi.vy), i,
-                       top ? kCushionTop : kCushionBottom);
+            const float line = top ? kCushionTopY : kCushionBottomY;
+            if (isLineWithinReach(line, bi.y, bi.vy, minOf(next.time, timeLeft)))
+                next.offer(timeToLine(line, bi.y, bi.vy), i, top ? kCushionTop : kCushionBottom);
         }
         const unsigned lowerMoving = moving & ((1u << i) - 1);
         unsigned partners = onTable & ~lowerMoving & ~(1u << i);
