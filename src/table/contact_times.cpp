@@ -51,9 +51,9 @@ struct Reaches {
         return lanes;
     }
 
-    // The balls that ball i may touch within the limit. It never turns
-    // away a pair whose timeToBall would be within the limit: it keeps a margin of a whole table
-    // unit, far beyond the rounding of floats over a table of a few thousand units.
+    // The balls that ball i may touch within the limit, as bits. It never turns away a pair whose
+    // timeToBall would be within the limit: it keeps a margin of a whole table unit, far beyond
+    // the rounding of floats over a table of a few thousand units.
     unsigned near(int i, float limit) const {
         const float xi = x[size_t(i)];
         const float yi = y[size_t(i)];
@@ -120,10 +120,10 @@ float timeToBall(const BallType& bi, const BallType& bj) {
 }
 
 // A pair is offered once: from the lower moving ball's side, as the full search did first, since
-// the other side gives the very same time and could only tie. Pairs too far apart to touch
-// before the best time so far, or before the frame's end, are not worked out: past the frame's
-// end any contact is as good as none. A moving ball's cushions are asked before its pairs, so the
-// best time so far is as short as it can be when the pairs within its reach are picked out.
+// the other side gives the very same time and could only tie. Cushions and balls too far away to
+// reach before the best time so far, or before the frame's end, are not worked out: past the
+// frame's end any contact is as good as none. A ball's pairs are picked out once its cushions
+// have been asked, so that the best time so far is as short as it can be.
 NextContact findNextContact(const BallArray& balls, float timeLeft) {
     unsigned onTable = 0;
     unsigned moving = 0;
