@@ -5,6 +5,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 
 namespace morvane {
@@ -37,6 +38,7 @@ constexpr int kLanes = 4;
 constexpr int kLaneGroups = (kBallCount + kLanes - 1) / kLanes;
 using Lanes = float __attribute__((vector_size(kLanes * sizeof(float))));
 using LaneTruths = int32_t __attribute__((vector_size(kLanes * sizeof(int32_t))));
+using LanePairs = uint64_t __attribute__((vector_size(sizeof(LaneTruths))));
 
 // Where each ball stands and how far it runs in one time unit, ball k in lane k % 4 of group
 // k / 4; the lanes past the last ball stay empty.
@@ -68,7 +70,10 @@ struct Reaches {
         };
         static_assert(kLaneGroups == 3, "the groups are taken one by one");
         const LaneTruths found = nearInGroup(0) | nearInGroup(1) | nearInGroup(2);
-        return unsigned(found[0] | found[1] | found[2] | found[3]);
+        // The lanes folded together two by two.
+        const LanePairs halves = std::bit_cast<LanePairs>(found);
+        const uint64_t pair = halves[0] | halves[1];
+        return unsigned(pair | pair >> 32);
     }
 };
 
