@@ -202,3 +202,24 @@ TEST(NextContact, AgreesWithAskingEveryPairOfRandomTables) {
     }
     EXPECT_GT(withinFrame, 500); // the tables give contacts to compare, not only misses
 }
+
+TEST(NextContact, BallFarBeyondACushionLineMeetsItAtOnceHoweverSlow) {
+    struct Beyond {
+        float x, y, vx, vy;
+        int cushion;
+    };
+    const Beyond cases[] = {{-100, 600, -20, 0, kCushionLeft},
+                            {2500, 600, 20, 0, kCushionRight},
+                            {1200, 1300, 0, 20, kCushionTop},
+                            {1200, -100, 0, -20, kCushionBottom}};
+    for (const Beyond& c : cases) {
+        BallArray balls = emptyTable();
+        putBall(balls, 3, c.x, c.y, 20);
+        balls[3].vx = c.vx;
+        balls[3].vy = c.vy;
+        const NextContact next = findNextContact(balls, 0.05f);
+        EXPECT_EQ(next.time, 0) << c.cushion;
+        EXPECT_EQ(next.ball, 3) << c.cushion;
+        EXPECT_EQ(next.partner, c.cushion);
+    }
+}
