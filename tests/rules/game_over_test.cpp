@@ -18,13 +18,6 @@ class GameOver : public RulesTest {
         setTable(g, {{0, 1200, 800}, {9, 1200, 1000}});
         shootToRest(1200, 1000, 60);
     }
-    void matchAgainst(const char* second, bool versusCpu, int16_t target) {
-        g.gameMode = kModeVersus;
-        g.versusCpu = versusCpu;
-        g.matchTarget = target;
-        g.players[0] = {"You", true, 0};
-        g.players[1] = {second, false, 0};
-    }
 };
 
 TEST_F(GameOver, ASoloGameOfTenTurnsAtMostEntersTheTableUnderTheGivenName) {
@@ -89,18 +82,17 @@ TEST_F(GameOver, TheDemoReturnsToTheMenuWithNoMessage) {
 // The test-only table that brings a solo game to its last shot.
 TEST_F(GameOver, TheNearlyClearedTableIsMadeOnceInASoloGameAtRestAndTheGamesAimSinksTheNine) {
     setTable(g, {{0, 600, 600}, {3, 1500, 300}, {7, 1900, 900}, {9, 1800, 600}});
-    g.breakPending = true;
-    EXPECT_FALSE(wantsNearlyClearedTable(g));
-    g.breakPending = false;
-    setTimerEnabled(g, kTimer1, true);
-    EXPECT_FALSE(wantsNearlyClearedTable(g)) << "balls rolling";
-    setTimerEnabled(g, kTimer1, false);
-    g.timers[kTimer1].running = true;
-    EXPECT_FALSE(wantsNearlyClearedTable(g)) << "a form of the tick is up";
-    g.timers[kTimer1].running = false;
-    g.gameMode = kModeVersus;
-    EXPECT_FALSE(wantsNearlyClearedTable(g));
-    g.gameMode = kModeSolo;
+    // Not before the break, while balls roll, while a form of the tick is up, nor in a match.
+    const std::vector<void (*)(GameState&)> refusals = {
+        [](GameState& h) { h.breakPending = true; },
+        [](GameState& h) { setTimerEnabled(h, kTimer1, true); },
+        [](GameState& h) { h.timers[kTimer1].running = true; },
+        [](GameState& h) { h.gameMode = kModeVersus; }};
+    for (const auto refuse : refusals) {
+        GameState h = g;
+        refuse(h);
+        EXPECT_FALSE(wantsNearlyClearedTable(h));
+    }
     ASSERT_TRUE(wantsNearlyClearedTable(g));
 
     g.ballInHand = true;

@@ -39,6 +39,15 @@ class RulesTest : public ::testing::Test {
         ASSERT_FALSE(isTimerEnabled(g, kTimer1)) << "the shot never came to rest";
     }
 
+    // A match of the given length between "You", to break, and the second player.
+    void matchAgainst(const char* second, bool versusCpu, int16_t target = 3) {
+        g.gameMode = kModeVersus;
+        g.versusCpu = versusCpu;
+        g.matchTarget = target;
+        g.players[0] = {"You", true, 0};
+        g.players[1] = {second, false, 0};
+    }
+
     // The cue ball sent up the table past everything: a miss, the cue ball stopping at x 600.
     void missEverything() {
         setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});

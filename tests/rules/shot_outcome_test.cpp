@@ -43,14 +43,11 @@ TEST_F(ShotOutcome_, TheNineOnAFoulComesBackToTheFootSpot) {
 }
 
 TEST_F(ShotOutcome_, AFoulInAMatchNamesTheShooterAndInTheDemoNoOneAndBackIsNotOffered) {
-    g.gameMode = kModeVersus;
-    g.versusCpu = false;
-    g.players[0] = {"Ann", true, 0};
-    g.players[1] = {"Bob", false, 0};
+    matchAgainst("Bob", false);
     g.turnCount = 1;
     missEverything();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob missed!"});
-    EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
+    EXPECT_EQ(g.controls.shotCaption, "Your Shot");
     EXPECT_FALSE(g.controls.mnuRetryEnabled);
 
     screen.messages.clear(); // in the demo no message, and zeph shoots next

@@ -28,12 +28,11 @@ TEST(BallContact, AFullHitPassesTheSpeedOnAndFollowOrDrawCarriesTheCueBallAlongI
     EXPECT_EQ(dead[0].speed, 0);
     EXPECT_EQ(dead[1].speed, 3000);
     EXPECT_EQ(dead[1].angle, 0);
-    const BallArray follow = fullHit(1000);
-    EXPECT_FLOAT_EQ(follow[0].speed, 1000);
-    EXPECT_EQ(follow[0].angle, 0);
-    const BallArray draw = fullHit(-1000);
-    EXPECT_FLOAT_EQ(draw[0].speed, 1000);
-    EXPECT_FLOAT_EQ(draw[0].angle, float(3.1415926));
+    for (const float follow : {1000.0f, -1000.0f}) { // follow runs on, draw comes back
+        const BallArray spun = fullHit(follow);
+        EXPECT_FLOAT_EQ(spun[0].speed, 1000);
+        EXPECT_FLOAT_EQ(spun[0].angle, follow > 0 ? 0 : float(3.1415926));
+    }
 }
 
 TEST(BallContact, AGlancingHitSendsTheBallsOffAtRightAnglesAndAHeadOnHitSwapsThem) {
