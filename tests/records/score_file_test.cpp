@@ -42,8 +42,7 @@ TEST_F(ScoreFile, NoFileGivesTheDefaultTablesAndLevelOne) {
                   std::tuple(kZephName, 0, 0, 0.0f, "98/01/01", 3600, 0));
         EXPECT_EQ(std::tie(g.soloRecords[i].place, g.vsCpuRecords[i].place), std::tuple(i, i));
     }
-    EXPECT_EQ(g.zephLevel, 1);
-    EXPECT_EQ(g.zephProgress, 0);
+    EXPECT_EQ(std::tie(g.zephLevel, g.zephProgress), std::tuple(1, 0));
     EXPECT_TRUE(folderEntries().empty()) << "reading creates no file";
 }
 
@@ -120,21 +119,18 @@ TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKeyAndNamesOfAnyBytesAsTwentyCharacte
     loadSoloRecord(g);
     loadVsCpuRecord(g);
     loadZephLevel(g);
-    EXPECT_EQ(g.soloRecords[10].Shots, 25);
-    EXPECT_EQ(g.soloRecords[9].Shots, 0);
-    EXPECT_EQ(g.soloRecords[1].Name, longName.substr(0, 20 * 3)) << "30 characters cut to 20";
-    EXPECT_EQ(g.soloRecords[1].Balls, "12009    ");
-    EXPECT_EQ(g.soloRecords[1].numOfBalls, 7) << "blanks count as balls";
-    EXPECT_EQ(g.soloRecords[1].Turn, 0) << "a value that is no number";
-    EXPECT_EQ(g.soloRecords[1].Time, 3600);
-    EXPECT_EQ(g.soloRecords[2].Time, 32767) << "kept within a 16-bit field";
-    EXPECT_EQ(g.soloRecords[2].Date, "26/7/4  ");
-    EXPECT_EQ(g.soloRecords[2].Name, "玉突き" + std::string(17, ' ')) << "Shift-JIS";
+    const SoloRecordType& first = g.soloRecords[1];
+    EXPECT_EQ(std::tie(g.soloRecords[10].Shots, g.soloRecords[9].Shots), std::tuple(25, 0));
+    EXPECT_EQ(first.Name, longName.substr(0, 20 * 3)) << "30 characters cut to 20";
+    // Blanks count as balls; a value that is no number reads 0, one missing its default.
+    EXPECT_EQ(std::tie(first.Balls, first.numOfBalls, first.Turn, first.Time),
+              std::tuple("12009    ", 7, 0, 3600));
+    const SoloRecordType& second = g.soloRecords[2];
+    EXPECT_EQ(std::tie(second.Time, second.Date, second.Name),
+              std::tuple(32767, "26/7/4  ", "玉突き" + std::string(17, ' ')));
     EXPECT_EQ(g.soloRecords[3].Name, "\uFFFD\uFFFD" + std::string(18, ' '));
     EXPECT_EQ(g.vsCpuRecords[3].winRate, 1.0f);
-    EXPECT_EQ(g.zephLevel, 1);
-    EXPECT_EQ(g.zephProgress, 7) << "progress has no bound";
-
+    EXPECT_EQ(std::tie(g.zephLevel, g.zephProgress), std::tuple(1, 7)) << "progress has no bound";
     writeFile("MVSCORE.INI", "[ZEPH]\nLV=99\n");
     loadZephLevel(g);
     EXPECT_EQ(g.zephLevel, 11);
@@ -167,11 +163,9 @@ TEST_F(ScoreFile, EachSaveWritesTheFileOnceAndIsCountedWithItsOutcome) {
     EXPECT_EQ(std::tie(g.scoreFileSaves, g.failedScoreFileSaves), std::tuple(4, 1));
 }
 
-TEST(ScoreValues, CountBallsAndWinRate) {
-    EXPECT_EQ(getNumOfBallFromBalls("000000009"), 1);
-    EXPECT_EQ(winRate(3, 1), 0.75f);
-    EXPECT_EQ(winRate(0, 0), 0.0f);
-    EXPECT_EQ(winRate(2, 1), float(2.0 / 3.0));
+TEST(ScoreValues, WinRateIsTheShareOfGamesWon) {
+    EXPECT_EQ(std::tuple(winRate(3, 1), winRate(0, 0), winRate(2, 1)),
+              std::tuple(0.75f, 0.0f, float(2.0 / 3.0)));
 }
 
 } // namespace
