@@ -46,10 +46,10 @@ TEST_F(ScoreFile, NoFileGivesTheDefaultTablesAndLevelOne) {
     EXPECT_TRUE(folderEntries().empty()) << "reading creates no file";
 }
 
-TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSection) {
+TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndReadBackAndEachSaveRewritesOnlyItsOwnSection) {
     GameState g;
     g.soloRecords[1] = soloRow("zeph", 14, 312, 1, "123456789", "98/02/11");
-    g.soloRecords[2] = soloRow("Ann", 9, -45, 2, "020000009", "25/12/31");
+    g.soloRecords[2] = soloRow("玉突き", 9, -45, 2, "020000009", "25/12/31");
     g.vsCpuRecords[1] = {fitToWidth("Bob", 20), 3, 2, 0.6f, "26/01/02", 75, 11, 1};
     g.zephLevel = 4;
     g.zephProgress = 1;
@@ -66,7 +66,7 @@ TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSec
         }
     };
     addSoloRow("01", " 14| 312| 1|zeph" + std::string(16, ' ') + "|123456789|98/02/11");
-    addSoloRow("02", " 9|-45| 2|Ann" + std::string(17, ' ') + "|020000009|25/12/31");
+    addSoloRow("02", " 9|-45| 2|玉突き" + std::string(17, ' ') + "|020000009|25/12/31");
     for (const char* n : {"03", "04", "05", "06", "07", "08", "09", "10"})
         addSoloRow(n, " 0| 3600| 10|" + kZephName + "|000000000|98/01/01");
     expected.insert(expected.end(),
@@ -83,27 +83,13 @@ TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSec
     EXPECT_EQ(after[13], "Shots03= 5");
     after[13] = all[13];
     EXPECT_EQ(after, all);
-}
-
-TEST_F(ScoreFile, RowsComeBackEqualInEveryField) {
-    GameState g;
-    for (int i = 1; i <= 10; ++i)
-        g.soloRecords[i] = soloRow("玉突き" + std::to_string(i), int16_t(30 - i), int16_t(99 * i),
-                                   int16_t(i % 4 + 1), i % 2 ? "100000009" : "023456789",
-                                   "26/01/0" + std::to_string(i % 10));
-    g.vsCpuRecords[2] = {fitToWidth("Dee", 20), 3, 1, 0.75f, "26/05/06", 88, 6, 2};
-    saveSoloRecord(g);
-    saveVsCpuRecord(g);
-    g.soloRecords[4].Name = fitToWidth("  Carol", 20);
-    saveSoloRecord(g);
 
     GameState back;
     loadSoloRecord(back);
     loadVsCpuRecord(back);
-    g.soloRecords[4].Name = fitToWidth("Carol", 20); // blanks at the ends are lost
-    for (int i = 1; i <= 10; ++i)
+    for (int i : {1, 2})
         EXPECT_EQ(soloFields(back.soloRecords[i]), soloFields(g.soloRecords[i])) << i;
-    EXPECT_EQ(vsFields(back.vsCpuRecords[2]), vsFields(g.vsCpuRecords[2]));
+    EXPECT_EQ(vsFields(back.vsCpuRecords[1]), vsFields(g.vsCpuRecords[1]));
 }
 
 TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKeyAndNamesOfAnyBytesAsTwentyCharacters) {
