@@ -8,10 +8,7 @@
 #include <cmath>
 #include <iostream>
 
-using morvane::testing::CommandRun;
-using morvane::testing::expectRefused;
-using morvane::testing::runTool;
-using morvane::testing::twoBalls;
+using namespace morvane::testing;
 using nlohmann::json;
 
 namespace {
