@@ -47,16 +47,23 @@ class Tunes : public ::testing::Test {
     }
 };
 
-TEST_F(Tunes, ATunePlayedBeforeItIsReadStartsOnceItIs) {
+TEST_F(Tunes, ATunePlayedBeforeItIsReadStartsOnceItIsAndAnotherReadOneAtOnce) {
     holdTheLoader();
     tracks->command("open menu.mid");
     tracks->command("play menu.mid");
     EXPECT_TRUE(tracks->isOpen("menu.mid")) << "the commands returned while the file waits";
     EXPECT_EQ(tracks->playing(), "menu.mid") << "asked to play, and on its way";
+    tracks->command("open game1.mid");
     release();
     loader.waitUntilIdle();
     EXPECT_EQ(tracks->playing(), "menu.mid");
     EXPECT_TRUE(tracks->isSounding()) << "now the synthesiser plays it";
+    tracks->command("close menu.mid");
+    EXPECT_EQ(tracks->tunesInMemory(), 1) << "the closed tune is freed, the other kept";
+    tracks->command("play game1.mid");
+    EXPECT_TRUE(tracks->isSounding()) << "read already: it starts at once";
+    tracks->command("close game1.mid");
+    EXPECT_EQ(tracks->tunesInMemory(), 0);
     EXPECT_EQ(said.str(), "");
 }
 
@@ -71,20 +78,6 @@ TEST_F(Tunes, ACloseWinsOverAReadStillUnderWayAndTheTuneIsLetGo) {
     loader.waitUntilIdle();
     EXPECT_FALSE(tracks->isSounding()) << "the read that ended after the close doesn't start it";
     EXPECT_EQ(tracks->tunesInMemory(), 0);
-}
-
-TEST_F(Tunes, AClosedTuneIsFreedAndAnotherOpenOneIsKeptAndStartsAtOnce) {
-    tracks->command("open menu.mid");
-    tracks->command("open game1.mid");
-    tracks->command("play menu.mid");
-    loader.waitUntilIdle();
-    tracks->command("close menu.mid");
-    EXPECT_EQ(tracks->tunesInMemory(), 1);
-    tracks->command("play game1.mid");
-    EXPECT_TRUE(tracks->isSounding()) << "read already: it starts at once";
-    tracks->command("close game1.mid");
-    EXPECT_EQ(tracks->tunesInMemory(), 0);
-    EXPECT_FALSE(tracks->isSounding());
 }
 
 TEST(TuneFile, AWholeMidiFileHasNoProblemAndItsTracksMustEndInsideIt) {
