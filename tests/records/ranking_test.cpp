@@ -14,7 +14,9 @@ class FixedDay : public ClockPort {
     CalendarDate today() override { return {2026, 3, 5}; }
 };
 
-// A fresh pair of tables, and games and matches that end and ask for their place.
+using Names = std::vector<std::string>;
+
+// A fresh pair of tables, and games and matches that end, ask for their place and take it.
 class Ranking : public ::testing::Test {
   protected:
     FixedDay clock;
@@ -25,47 +27,41 @@ class Ranking : public ::testing::Test {
         rackBalls(g);
         unmarkNewRows(g);
     }
-    bool endSolo(const std::string& name, int16_t turns, int16_t shots, int16_t seconds,
-                 int ballsDown = 1) {
+    bool endSolo(const std::string& name, int turns, int shots, int seconds, int ballsDown = 1,
+                 bool sort = true) {
         g.players[0].name = name;
-        g.turnCount = turns;
-        g.shotCount = shots;
-        g.gameSeconds = seconds;
+        g.turnCount = int16_t(turns);
+        g.shotCount = int16_t(shots);
+        g.gameSeconds = int16_t(seconds);
         for (int n = 1; n <= 9; ++n)
             g.Balls[n].onTable = n <= 9 - ballsDown;
-        return doseLankInSolo(g);
+        const bool entered = doseLankInSolo(g);
+        if (entered && sort)
+            sortSoloRecord(g);
+        return entered;
     }
-    bool endMatch(const std::string& name, int16_t youWon, int16_t cpuWon, int16_t level,
-                  int16_t seconds = 100) {
+    bool endMatch(const std::string& name, int youWon, int cpuWon, int level, int seconds = 100) {
         g.players[0].name = name;
-        g.players[0].gamesWon = youWon;
-        g.players[1].gamesWon = cpuWon;
-        g.zephLevel = level;
-        g.gameSeconds = seconds;
-        return doseLankInVSCpu(g);
+        g.players[0].gamesWon = int16_t(youWon);
+        g.players[1].gamesWon = int16_t(cpuWon);
+        g.zephLevel = int16_t(level);
+        g.gameSeconds = int16_t(seconds);
+        const bool entered = doseLankInVSCpu(g);
+        if (entered)
+            sortVsCPURecord(g);
+        return entered;
     }
-    // The names of the first rows of a table, without their blanks.
-    template <typename Rows> static std::vector<std::string> names(const Rows& table, int rows) {
-        std::vector<std::string> found;
+    // The names of the first rows of a table without their blanks, the new row's marked "*".
+    template <typename Rows> static Names names(const Rows& table, int rows) {
+        Names found;
         for (int i = 1; i <= rows; ++i)
-            found.push_back(trimBlanks(table[i].Name));
+            found.push_back(trimBlanks(table[i].Name) + (table[i].place == 11 ? "*" : ""));
         return found;
-    }
-    std::vector<std::string> soloNames(int rows) const { return names(g.soloRecords, rows); }
-    int markedSoloRow() const {
-        for (int i = 1; i <= 10; ++i) {
-            if (g.soloRecords[i].place == 11)
-                return i;
-        }
-        return 0;
     }
 };
 
-using Names = std::vector<std::string>;
-
 TEST_F(Ranking, AGameOnAFreshTableRisesToTheTopWithItsRow) {
     ASSERT_TRUE(endSolo("You", 10, 3, 900, 9));
-    sortSoloRecord(g);
     const SoloRecordType& top = g.soloRecords[1];
     EXPECT_EQ(std::tie(top.Name, top.Turn, top.Shots, top.Time, top.Balls, top.numOfBalls, top.Date,
                        top.place),
@@ -78,38 +74,33 @@ TEST_F(Ranking, SoloRowsGoByTurnsThenMoreShotsThenBallsThenTime) {
                                                       {"forty", 5, 40, 100, 1},
                                                       {"fast", 5, 20, 50, 1},
                                                       {"moreBalls", 5, 20, 500, 3},
-                                                      {"fewTurns", 2, 2, 3000, 1}}) {
-        ASSERT_TRUE(endSolo(name, int16_t(turns), int16_t(shots), int16_t(seconds), balls));
-        sortSoloRecord(g);
-    }
-    EXPECT_EQ(soloNames(6), (Names{"fewTurns", "forty", "thirty", "moreBalls", "fast", "zeph"}));
-    EXPECT_EQ(markedSoloRow(), 1);
+                                                      {"fewTurns", 2, 2, 3000, 1}})
+        ASSERT_TRUE(endSolo(name, turns, shots, seconds, balls));
+    EXPECT_EQ(names(g.soloRecords, 6),
+              (Names{"fewTurns*", "forty", "thirty", "moreBalls", "fast", "zeph"}));
 }
 
 TEST_F(Ranking, EqualSoloRowsKeepTheirOrderAndAnEqualOfRowTenStaysOut) {
-    for (int i = 0; i < 10; ++i) {
-        ASSERT_TRUE(endSolo("old" + std::to_string(i), 4, int16_t(20 - i), 200));
-        sortSoloRecord(g);
-    }
+    for (int i = 0; i < 10; ++i)
+        ASSERT_TRUE(endSolo("old" + std::to_string(i), 4, 20 - i, 200));
     EXPECT_FALSE(endSolo("sameAsRow10", 4, 11, 200));
     EXPECT_FALSE(endSolo("moreTurns", 5, 99, 1, 9));
     ASSERT_TRUE(endSolo("sameAsRow3", 4, 18, 200));
-    sortSoloRecord(g);
-    EXPECT_EQ(soloNames(5), (Names{"old0", "old1", "old2", "sameAsRow3", "old3"}));
+    EXPECT_EQ(names(g.soloRecords, 5), (Names{"old0", "old1", "old2", "sameAsRow3*", "old3"}));
     EXPECT_EQ(trimBlanks(g.soloRecords[11].Name), "old9");
-    EXPECT_EQ(markedSoloRow(), 4);
 }
 
 TEST_F(Ranking, TheSortTakesANameGivenLaterAndPutsAHandEditedTableRight) {
     g.soloRecords[3].Turn = 1;
     g.soloRecords[3].Name = "edited";
-    ASSERT_TRUE(endSolo("asked", 3, 10, 100));
+    ASSERT_TRUE(endSolo("asked", 3, 10, 100, 1, false));
     g.players[0].name = "Given";
     sortSoloRecord(g);
-    EXPECT_EQ(soloNames(3), (Names{"edited", "Given", "zeph"}));
+    EXPECT_EQ(names(g.soloRecords, 3), (Names{"edited", "Given*", "zeph"}));
 }
 
 TEST_F(Ranking, MatchesGoByLevelThenWinsThenFewerLossesThenTimeAndALostOneNeverEnters) {
+    ASSERT_TRUE(endSolo("solo", 3, 10, 100));
     g.vsCpuRecords[11].Name = "untouched";
     EXPECT_FALSE(endMatch("lost", 2, 3, 11));
     EXPECT_FALSE(endMatch("drawn", 1, 1, 11));
@@ -119,26 +110,16 @@ TEST_F(Ranking, MatchesGoByLevelThenWinsThenFewerLossesThenTimeAndALostOneNeverE
                                                    {"3-0 L5", 3, 0, 5, 100},
                                                    {"3-2 L6", 3, 2, 6, 100},
                                                    {"3-1 L5 long", 3, 1, 5, 300},
-                                                   {"3-1 L5 short", 3, 1, 5, 200}}) {
-        ASSERT_TRUE(endMatch(name, int16_t(won), int16_t(lost), int16_t(level), int16_t(seconds)));
-        sortVsCPURecord(g);
-    }
+                                                   {"3-1 L5 short", 3, 1, 5, 200}})
+        ASSERT_TRUE(endMatch(name, won, lost, level, seconds));
     EXPECT_EQ(names(g.vsCpuRecords, 6),
-              (Names{"3-2 L6", "3-0 L5", "3-1 L5 short", "3-1 L5 long", "7-0 L4", "3-0 L4"}));
+              (Names{"3-2 L6", "3-0 L5", "3-1 L5 short*", "3-1 L5 long", "7-0 L4", "3-0 L4"}));
     const VsCpuRecordType& newest = g.vsCpuRecords[3];
-    EXPECT_EQ(std::tie(newest.place, newest.Time, newest.Date, newest.winRate),
-              std::tuple(11, 200, "26/03/05", 0.75f));
-}
-
-TEST_F(Ranking, OnlyTheLatestInsertionStaysMarked) {
-    ASSERT_TRUE(endSolo("solo", 3, 10, 100));
-    sortSoloRecord(g);
-    ASSERT_TRUE(endMatch("match", 3, 0, 2));
-    sortVsCPURecord(g);
-    EXPECT_EQ(markedSoloRow(), 0) << "the solo mark goes with the next insertion";
-    EXPECT_EQ(g.vsCpuRecords[1].place, 11);
+    EXPECT_EQ(std::tie(newest.Time, newest.Date, newest.winRate),
+              std::tuple(200, "26/03/05", 0.75f));
+    EXPECT_EQ(names(g.soloRecords, 1), Names{"solo"}) << "only the latest insertion stays marked";
     unmarkNewRows(g);
-    EXPECT_EQ(g.vsCpuRecords[1].place, 1);
+    EXPECT_EQ(newest.place, 3);
 }
 
 } // namespace

@@ -42,15 +42,14 @@ TEST_F(ScoreFile, NoFileGivesTheDefaultTablesAndLevelOne) {
                   std::tuple(kZephName, 0, 0, 0.0f, "98/01/01", 3600, 0));
         EXPECT_EQ(std::tie(g.soloRecords[i].place, g.vsCpuRecords[i].place), std::tuple(i, i));
     }
-    EXPECT_EQ(g.zephLevel, 1);
-    EXPECT_EQ(g.zephProgress, 0);
+    EXPECT_EQ(std::tie(g.zephLevel, g.zephProgress), std::tuple(1, 0));
     EXPECT_TRUE(folderEntries().empty()) << "reading creates no file";
 }
 
-TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSection) {
+TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndReadBackAndEachSaveRewritesOnlyItsOwnSection) {
     GameState g;
     g.soloRecords[1] = soloRow("zeph", 14, 312, 1, "123456789", "98/02/11");
-    g.soloRecords[2] = soloRow("Ann", 9, -45, 2, "020000009", "25/12/31");
+    g.soloRecords[2] = soloRow("玉突き", 9, -45, 2, "020000009", "25/12/31");
     g.vsCpuRecords[1] = {fitToWidth("Bob", 20), 3, 2, 0.6f, "26/01/02", 75, 11, 1};
     g.zephLevel = 4;
     g.zephProgress = 1;
@@ -67,7 +66,7 @@ TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSec
         }
     };
     addSoloRow("01", " 14| 312| 1|zeph" + std::string(16, ' ') + "|123456789|98/02/11");
-    addSoloRow("02", " 9|-45| 2|Ann" + std::string(17, ' ') + "|020000009|25/12/31");
+    addSoloRow("02", " 9|-45| 2|玉突き" + std::string(17, ' ') + "|020000009|25/12/31");
     for (const char* n : {"03", "04", "05", "06", "07", "08", "09", "10"})
         addSoloRow(n, " 0| 3600| 10|" + kZephName + "|000000000|98/01/01");
     expected.insert(expected.end(),
@@ -84,27 +83,13 @@ TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndEachSaveRewritesOnlyItsOwnSec
     EXPECT_EQ(after[13], "Shots03= 5");
     after[13] = all[13];
     EXPECT_EQ(after, all);
-}
-
-TEST_F(ScoreFile, RowsComeBackEqualInEveryField) {
-    GameState g;
-    for (int i = 1; i <= 10; ++i)
-        g.soloRecords[i] = soloRow("玉突き" + std::to_string(i), int16_t(30 - i), int16_t(99 * i),
-                                   int16_t(i % 4 + 1), i % 2 ? "100000009" : "023456789",
-                                   "26/01/0" + std::to_string(i % 10));
-    g.vsCpuRecords[2] = {fitToWidth("Dee", 20), 3, 1, 0.75f, "26/05/06", 88, 6, 2};
-    saveSoloRecord(g);
-    saveVsCpuRecord(g);
-    g.soloRecords[4].Name = fitToWidth("  Carol", 20);
-    saveSoloRecord(g);
 
     GameState back;
     loadSoloRecord(back);
     loadVsCpuRecord(back);
-    g.soloRecords[4].Name = fitToWidth("Carol", 20); // blanks at the ends are lost
-    for (int i = 1; i <= 10; ++i)
+    for (int i : {1, 2})
         EXPECT_EQ(soloFields(back.soloRecords[i]), soloFields(g.soloRecords[i])) << i;
-    EXPECT_EQ(vsFields(back.vsCpuRecords[2]), vsFields(g.vsCpuRecords[2]));
+    EXPECT_EQ(vsFields(back.vsCpuRecords[1]), vsFields(g.vsCpuRecords[1]));
 }
 
 TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKeyAndNamesOfAnyBytesAsTwentyCharacters) {
@@ -120,21 +105,18 @@ TEST_F(ScoreFile, AHandEditedFileLoadsKeyByKeyAndNamesOfAnyBytesAsTwentyCharacte
     loadSoloRecord(g);
     loadVsCpuRecord(g);
     loadZephLevel(g);
-    EXPECT_EQ(g.soloRecords[10].Shots, 25);
-    EXPECT_EQ(g.soloRecords[9].Shots, 0);
-    EXPECT_EQ(g.soloRecords[1].Name, longName.substr(0, 20 * 3)) << "30 characters cut to 20";
-    EXPECT_EQ(g.soloRecords[1].Balls, "12009    ");
-    EXPECT_EQ(g.soloRecords[1].numOfBalls, 7) << "blanks count as balls";
-    EXPECT_EQ(g.soloRecords[1].Turn, 0) << "a value that is no number";
-    EXPECT_EQ(g.soloRecords[1].Time, 3600);
-    EXPECT_EQ(g.soloRecords[2].Time, 32767) << "kept within a 16-bit field";
-    EXPECT_EQ(g.soloRecords[2].Date, "26/7/4  ");
-    EXPECT_EQ(g.soloRecords[2].Name, "玉突き" + std::string(17, ' ')) << "Shift-JIS";
+    const SoloRecordType& first = g.soloRecords[1];
+    EXPECT_EQ(std::tie(g.soloRecords[10].Shots, g.soloRecords[9].Shots), std::tuple(25, 0));
+    EXPECT_EQ(first.Name, longName.substr(0, 20 * 3)) << "30 characters cut to 20";
+    // Blanks count as balls; a value that is no number reads 0, one missing its default.
+    EXPECT_EQ(std::tie(first.Balls, first.numOfBalls, first.Turn, first.Time),
+              std::tuple("12009    ", 7, 0, 3600));
+    const SoloRecordType& second = g.soloRecords[2];
+    EXPECT_EQ(std::tie(second.Time, second.Date, second.Name),
+              std::tuple(32767, "26/7/4  ", "玉突き" + std::string(17, ' ')));
     EXPECT_EQ(g.soloRecords[3].Name, "\uFFFD\uFFFD" + std::string(18, ' '));
     EXPECT_EQ(g.vsCpuRecords[3].winRate, 1.0f);
-    EXPECT_EQ(g.zephLevel, 1);
-    EXPECT_EQ(g.zephProgress, 7) << "progress has no bound";
-
+    EXPECT_EQ(std::tie(g.zephLevel, g.zephProgress), std::tuple(1, 7)) << "progress has no bound";
     writeFile("MVSCORE.INI", "[ZEPH]\nLV=99\n");
     loadZephLevel(g);
     EXPECT_EQ(g.zephLevel, 11);
@@ -167,11 +149,9 @@ TEST_F(ScoreFile, EachSaveWritesTheFileOnceAndIsCountedWithItsOutcome) {
     EXPECT_EQ(std::tie(g.scoreFileSaves, g.failedScoreFileSaves), std::tuple(4, 1));
 }
 
-TEST(ScoreValues, CountBallsAndWinRate) {
-    EXPECT_EQ(getNumOfBallFromBalls("000000009"), 1);
-    EXPECT_EQ(winRate(3, 1), 0.75f);
-    EXPECT_EQ(winRate(0, 0), 0.0f);
-    EXPECT_EQ(winRate(2, 1), float(2.0 / 3.0));
+TEST(ScoreValues, WinRateIsTheShareOfGamesWon) {
+    EXPECT_EQ(std::tuple(winRate(3, 1), winRate(0, 0), winRate(2, 1)),
+              std::tuple(0.75f, 0.0f, float(2.0 / 3.0)));
 }
 
 } // namespace

@@ -9,9 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <vector>
 
@@ -21,24 +19,13 @@ using namespace morvane::testing;
 namespace {
 
 constexpr int kBytesPerFrame = 4; // 16-bit stereo
-constexpr double kFullScale = 32768.0;
 
-// The loudest of the samples, as a part of full scale.
-double peakOf(const std::vector<int16_t>& samples) {
+// The loudest of the samples between two bytes, as a part of full scale.
+double peakOf(const Uint8* bytes, size_t from, size_t to) {
     double peak = 0;
-    for (int16_t s : samples)
-        peak = std::max(peak, std::abs(s / kFullScale));
+    for (size_t i = from; i + 1 < to; i += 2)
+        peak = std::max(peak, std::abs(int16_t(bytes[i] | (bytes[i + 1] << 8)) / 32768.0));
     return peak;
-}
-
-std::vector<int16_t> samplesOf(const std::filesystem::path& file, size_t fromByte = 0) {
-    std::ifstream in(file, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(in),
-                                  std::istreambuf_iterator<char>()};
-    std::vector<int16_t> samples;
-    for (size_t i = fromByte; i + 1 < bytes.size(); i += 2)
-        samples.push_back(int16_t(uint8_t(bytes[i]) | (uint8_t(bytes[i + 1]) << 8)));
-    return samples;
 }
 
 // The peak of an effect's own file.
@@ -48,58 +35,30 @@ double peakOfWav(const char* effect) {
     Uint32 length = 0;
     if (SDL_LoadWAV((runtimeFolder() / effect).c_str(), &format, &buffer, &length) == nullptr)
         return 0;
-    std::vector<int16_t> samples(length / 2);
-    std::memcpy(samples.data(), buffer, samples.size() * 2);
+    const double peak = peakOf(buffer, 0, length);
     SDL_FreeWAV(buffer);
-    return peakOf(samples);
-}
-
-class Rendering : public ::testing::Test {
-  protected:
-    const std::filesystem::path output = std::filesystem::temp_directory_path() /
-                                         ("morvane-mix-" + std::to_string(getpid()) + ".raw");
-    const ScopedEnv driver{"SDL_AUDIODRIVER", "disk"}, file{"SDL_DISKAUDIOFILE", output.string()};
-    const ScopedEnv delay{"SDL_DISKAUDIODELAY", "0"}; // as fast as the mixer can go
-
-    void TearDown() override { std::filesystem::remove(output); }
-
-    void expectSixteenBitStereo() {
-        int rate = 0, channels = 0;
-        Uint16 format = 0;
-        ASSERT_TRUE(Mix_QuerySpec(&rate, &format, &channels));
-        EXPECT_EQ(format, AUDIO_S16SYS);
-        EXPECT_EQ(channels, 2);
-    }
-    size_t bytesWritten() const {
-        std::error_code ignored;
-        const auto size = std::filesystem::file_size(output, ignored);
-        return ignored ? 0 : size_t(size);
-    }
-};
-
-TEST_F(Rendering, AHardClickComesOutAtTheLevelOfItsFile) {
-    std::ostringstream warnings;
-    {
-        SdlSound sound(runtimeFolder(), warnings);
-        ASSERT_TRUE(sound.hasDevice()) << warnings.str();
-        expectSixteenBitStereo();
-        sound.playEffect(kSoundHardClick, kSoundCutOff);
-        ASSERT_TRUE(waitForMixer([&] { return sound.effectPlaying().empty(); }));
-    }
-    const double written = peakOfWav(kSoundHardClick);
-    ASSERT_GT(written, 0.1);
-    EXPECT_NEAR(peakOf(samplesOf(output)), written, 0.02 * written);
-    EXPECT_EQ(warnings.str(), "");
+    return peak;
 }
 
 // Each tune played whole through the General MIDI soundfont sounds, and leaves the loudest effect
-// room below full scale.
-TEST_F(Rendering, EveryTuneSoundsAndLeavesTheLoudestEffectRoomBelowFullScale) {
+// room below full scale; a hard click before it comes out at the level of its file.
+TEST(Rendering, EffectsKeepTheirLevelAndEveryTuneSoundsWithRoomForTheLoudestEffect) {
+    const auto output = std::filesystem::temp_directory_path() /
+                        ("morvane-mix-" + std::to_string(getpid()) + ".raw");
+    const ScopedEnv driver{"SDL_AUDIODRIVER", "disk"}, file{"SDL_DISKAUDIOFILE", output.string()};
+    const ScopedEnv delay{"SDL_DISKAUDIODELAY", "0"}; // as fast as the mixer can go
+    const auto bytesWritten = [&] {
+        std::error_code ignored;
+        const auto size = std::filesystem::file_size(output, ignored);
+        return ignored ? 0 : size_t(size);
+    };
     constexpr double kTuneSeconds = 30.5; // the music timer closes each tune then
     double loudestEffect = 0;
     for (const char* effect :
          {kSoundSoftClick, kSoundMediumClick, kSoundHardClick, kSoundDrop, kSoundCushion})
         loudestEffect = std::max(loudestEffect, peakOfWav(effect));
+    const double click = peakOfWav(kSoundHardClick);
+    ASSERT_GT(click, 0.1);
     ASSERT_GT(loudestEffect, 0.3);
     std::ostringstream warnings;
     for (const char* tune : {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"}) {
@@ -107,7 +66,12 @@ TEST_F(Rendering, EveryTuneSoundsAndLeavesTheLoudestEffectRoomBelowFullScale) {
         {
             SdlSound sound(runtimeFolder(), warnings);
             ASSERT_TRUE(sound.hasDevice()) << warnings.str();
-            expectSixteenBitStereo();
+            int rate = 0, channels = 0;
+            Uint16 format = 0;
+            ASSERT_TRUE(Mix_QuerySpec(&rate, &format, &channels));
+            EXPECT_EQ(std::tuple(format, channels), std::tuple(AUDIO_S16SYS, 2));
+            sound.playEffect(kSoundHardClick, kSoundCutOff);
+            ASSERT_TRUE(waitForMixer([&] { return sound.effectPlaying().empty(); }));
             sound.sendMusic(std::string("open ") + tune);
             // The mixer runs at full speed: let it have the soundfont and the tune first.
             sound.waitForMusicLoads();
@@ -116,10 +80,14 @@ TEST_F(Rendering, EveryTuneSoundsAndLeavesTheLoudestEffectRoomBelowFullScale) {
             const auto bytes = size_t(kTuneSeconds * kMixRate) * kBytesPerFrame;
             ASSERT_TRUE(waitForMixer([&] { return bytesWritten() >= startedAt + bytes; }));
         }
-        const double music = peakOf(samplesOf(output, startedAt));
+        std::ifstream in(output, std::ios::binary);
+        const std::vector<Uint8> mix{std::istreambuf_iterator<char>(in), {}};
+        EXPECT_NEAR(peakOf(mix.data(), 0, startedAt), click, 0.02 * click) << tune;
+        const double music = peakOf(mix.data(), startedAt, mix.size());
         EXPECT_GT(music, 0.2) << tune << " sounds";
         EXPECT_LT(music + loudestEffect, 0.99) << tune << " with the loudest effect clips";
     }
+    std::filesystem::remove(output);
     EXPECT_EQ(warnings.str(), "");
 }
 

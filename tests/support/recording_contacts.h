@@ -18,8 +18,6 @@ struct Contact {
 
 struct RecordingContacts : ContactObserver {
     std::vector<Contact> seen;
-    int searches = 0;
-    void beforeSearch() override { ++searches; }
     void onContact(float time, int ball, int partner, int pocket) override {
         seen.push_back({time, ball, partner, pocket});
     }

@@ -1,5 +1,7 @@
-// What the game makes of whatever stands in the place of its files: FIFOs, devices, folders,
-// links, huge files. Nothing may wait, nothing may be read past a sane size, and each is told once.
+// Where the game keeps its files, and what it makes of whatever stands in their place: FIFOs,
+// devices, folders, links, huge files. Nothing may wait, nothing may be read past a sane size, and
+// each is told once.
+#include "records/data_folder.h"
 #include "records/file_read.h"
 #include "records/profile_file.h"
 #include "support/temp_home.h"
@@ -12,12 +14,12 @@ using namespace morvane;
 
 namespace {
 
-class SafeFiles : public morvane::testing::TempHomeTest {
+class GameFiles : public morvane::testing::TempHomeTest {
   protected:
     std::string file() const { return path("MVSCORE.INI"); }
 };
 
-TEST_F(SafeFiles, WhatIsNoFileIsReadAsNothingToldOnceAndNeverSavedOver) {
+TEST_F(GameFiles, WhatIsNoFileIsReadAsNothingToldOnceAndNeverSavedOver) {
     for (const std::string kind : {"a FIFO", "a character device", "a folder"}) {
         std::filesystem::remove_all(file());
         if (kind == "a FIFO")
@@ -38,15 +40,14 @@ TEST_F(SafeFiles, WhatIsNoFileIsReadAsNothingToldOnceAndNeverSavedOver) {
                   "morvane: " + file() + " is " + kind +
                       ", not a regular file; the defaults are used\nmorvane: could not save " +
                       file() + " (" + kind + " stands in its place); the change is lost\n");
-        struct stat info {};
-        ASSERT_EQ(::lstat(file().c_str(), &info), 0);
-        EXPECT_FALSE(S_ISREG(info.st_mode)) << "left as it was";
+        EXPECT_FALSE(std::filesystem::is_regular_file(std::filesystem::symlink_status(file())))
+            << "left as it was";
     }
     std::filesystem::remove_all(file());
     EXPECT_EQ(readSmallFile(file()).problem, FileRead::Problem::Missing);
 }
 
-TEST_F(SafeFiles, ALargeFileIsReadUpToTheLimitAndCutAfterItsLastWholeLine) {
+TEST_F(GameFiles, ALargeFileIsReadUpToTheLimitAndCutAfterItsLastWholeLine) {
     const std::tuple<std::string, FileRead::Problem, std::string> cases[] = {
         {"[S]\nkey=1\n" + std::string(100, 'x') + "\nlast=2\n", FileRead::Problem::TooLarge,
          "[S]\nkey=1\n"},
@@ -59,7 +60,7 @@ TEST_F(SafeFiles, ALargeFileIsReadUpToTheLimitAndCutAfterItsLastWholeLine) {
     }
 }
 
-TEST_F(SafeFiles, ASaveReplacesTheFileALinkPointsToAndLeavesAnUnchangedFileAlone) {
+TEST_F(GameFiles, ASaveReplacesTheFileALinkPointsToAndLeavesAnUnchangedFileAlone) {
     std::filesystem::create_directory(path("kept"));
     writeFile("kept/MVSCORE.INI", "[ZEPH]\r\nLV= 1\r\n");
     std::filesystem::create_symlink(path("kept/MVSCORE.INI"), file());
@@ -73,6 +74,19 @@ TEST_F(SafeFiles, ASaveReplacesTheFileALinkPointsToAndLeavesAnUnchangedFileAlone
     struct stat after {};
     ASSERT_EQ(::stat(file().c_str(), &after), 0);
     EXPECT_EQ(after.st_ino, before.st_ino) << "not replaced";
+}
+
+TEST_F(GameFiles, TheirFolderIsMorvaneHomeElseUnderXdgElseUnderHomeAndIsMade) {
+    ::setenv("MORVANE_HOME", (home_ + "own").c_str(), 1);
+    EXPECT_EQ(getWindowsPath(), home_ + "own/");
+    ::unsetenv("MORVANE_HOME");
+    ::setenv("XDG_CONFIG_HOME", (home_ + "xdg").c_str(), 1);
+    EXPECT_EQ(getWindowsPath(), home_ + "xdg/morvane/");
+    ::setenv("XDG_CONFIG_HOME", "relative", 1);
+    ::setenv("HOME", (home_ + "user").c_str(), 1);
+    EXPECT_EQ(getWindowsPath(), home_ + "user/.config/morvane/") << "a relative XDG is ignored";
+    for (const char* made : {"own", "xdg/morvane", "user/.config/morvane"})
+        EXPECT_TRUE(std::filesystem::is_directory(home_ + made)) << made;
 }
 
 } // namespace
