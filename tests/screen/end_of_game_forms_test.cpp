@@ -241,20 +241,20 @@ TEST_F(EndOfGameFormsTest, TheSplashGoesOnItsSixthTick) {
     EXPECT_EQ(1, mainShown);
 }
 
-TEST_F(EndOfGameFormsTest, TheVersionFormStatesTheMasterHighOnTheScreen) {
+// High on the screen, the version form states the master; zeph's face blinks twice on a click,
+// and a click midway changes nothing.
+TEST_F(EndOfGameFormsTest, TheVersionFormStatesTheMasterAndZephBlinksTwice) {
     EXPECT_EQ(" Ver.3.02\n zeph's Level is 10.", versionCaption(10));
     g.zephLevel = 11;
     QString caption;
-    whenShown<VersionForm>([&](VersionForm& form) {
-        caption = form.Label1()->text();
-        form.Command1()->click();
+    whenShown<VersionForm>([&](VersionForm& shown) {
+        caption = shown.Label1()->text();
+        shown.Command1()->click();
     });
     screen->showVersion();
     EXPECT_EQ(QString(" Ver.3.02\n zeph is a Master!"), caption);
     EXPECT_EQ(centredOnScreen(QSize(332, 127), 0.2), formPlace);
-}
 
-TEST_F(EndOfGameFormsTest, ZephsFaceBlinksTwiceAndAClickMidwayChangesNothing) {
     VersionForm form(g, window.get());
     form.show();
     const QImage frames = QImage(pictures::kZephFrames).convertToFormat(QImage::Format_RGB32);
