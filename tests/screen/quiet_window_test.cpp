@@ -32,21 +32,16 @@ class QuietWindowTest : public ScreenTest {
     int wakeWhenIdle(
         TimerDriver& driver, const std::function<void()>& handler = [] {}) {
         QEventLoop loop;
-        bool handled = false;
         int wake = -2;
-        const auto idle = QObject::connect(QAbstractEventDispatcher::instance(),
-                                           &QAbstractEventDispatcher::aboutToBlock, &loop, [&] {
-                                               if (!handled)
-                                                   return;
-                                               wake = driver.msUntilWake();
-                                               loop.quit();
-                                           });
         QTimer::singleShot(0, &loop, [&] {
             handler();
-            handled = true;
+            QObject::connect(QAbstractEventDispatcher::instance(),
+                             &QAbstractEventDispatcher::aboutToBlock, &loop, [&] {
+                                 wake = driver.msUntilWake();
+                                 loop.quit();
+                             });
         });
         loop.exec();
-        QObject::disconnect(idle);
         return wake;
     }
 
