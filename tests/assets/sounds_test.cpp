@@ -44,17 +44,12 @@ Wav readWav(const std::string& file) {
         return w;
     }
     w.rate = le32(b, 24);
-    // RIFF size, fmt size, PCM, mono, bytes a second, bytes a sample, bits, data size.
-    const std::pair<size_t, uint32_t> fields[] = {{4, le32(b, 4) - uint32_t(b.size() - 8)},
-                                                  {16, le32(b, 16) - 16},
-                                                  {20, le16(b, 20) - 1},
-                                                  {22, le16(b, 22) - 1},
-                                                  {28, le32(b, 28) - 2 * w.rate},
-                                                  {32, le16(b, 32) - 2},
-                                                  {34, le16(b, 34) - 16},
-                                                  {40, le32(b, 40) - uint32_t(b.size() - 44)}};
-    for (const auto& [at, off] : fields)
-        EXPECT_EQ(0u, off) << file << " header at " << at;
+    // RIFF size, fmt size, PCM and mono, bytes a second, bytes a sample and bits, data size.
+    const uint32_t size = uint32_t(b.size());
+    EXPECT_EQ(
+        (std::array{size - 8, 16u, 0x10001u, 2 * w.rate, 0x100002u, size - 44}),
+        (std::array{le32(b, 4), le32(b, 16), le32(b, 20), le32(b, 28), le32(b, 32), le32(b, 40)}))
+        << file;
     for (size_t i = 44; i + 1 < b.size(); i += 2)
         w.samples.push_back(int16_t(le16(b, i)));
     return w;

@@ -60,9 +60,10 @@ TEST_F(FormsTest, TheBarShowsTheNextBallAndKeepsItsPictureOnTheMenu) {
     g.Balls[1].onTable = false;
     screen->drawInformation();
     const QImage& bar = screen->surfaces().information;
-    EXPECT_EQ(restingColour(2), bar.pixel(300, 11) | 0xff000000); // cell at (290, 1)
-    EXPECT_EQ(qRgb(0, 255, 0), bar.pixel(289, 10) | 0xff000000);  // the box's outline
-    EXPECT_EQ(qRgb(0, 255, 0), bar.pixel(310, 10) | 0xff000000);
+    // Ball 2 in its cell at (290, 1), inside the box's green outline.
+    EXPECT_EQ((std::array{qRgb(0, 255, 0), restingColour(2), qRgb(0, 255, 0)}),
+              (std::array{bar.pixel(289, 10) | 0xff000000, bar.pixel(300, 11) | 0xff000000,
+                          bar.pixel(310, 10) | 0xff000000}));
 
     const QImage before = bar.copy();
     g.gameMode = kModeMenu;

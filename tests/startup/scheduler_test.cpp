@@ -36,11 +36,9 @@ TEST_F(Scheduler, ATimerCountsItsIntervalFromWhenItWasSwitchedOnNotSwitchedOnAga
 
 TEST_F(Scheduler, ALateDriverFiresEachTimerOnceAndDoesNotMakeUpTheMissedTicks) {
     runDueTimers(g, 2000); // a whole second late: one tick, and the next a second on
-    EXPECT_EQ(g.gameSeconds, 1);
-    EXPECT_EQ(nextDueTime(g), 3000);
+    EXPECT_TRUE(g.gameSeconds == 1 && nextDueTime(g) == 3000);
     runDueTimers(g, 6500);
-    EXPECT_EQ(g.gameSeconds, 2);
-    EXPECT_EQ(nextDueTime(g), 7500);
+    EXPECT_TRUE(g.gameSeconds == 2 && nextDueTime(g) == 7500);
 }
 
 TEST_F(Scheduler, ATimerNeverFiresWhileItsOwnHandlerIsRunning) {
@@ -72,10 +70,11 @@ struct Swing {
         g.controls.menuVisible = underMenu;
     }
     // The menu goes at `atMs` and the swing is left to run until `untilMs`.
-    void showTableAt(int64_t atMs, int64_t untilMs) {
+    Swing& showTableAt(int64_t atMs, int64_t untilMs) {
         advanceVirtualTime(g, atMs);
         g.controls.menuVisible = false;
         advanceVirtualTime(g, untilMs);
+        return *this;
     }
 };
 
@@ -90,27 +89,21 @@ TEST(BreakSwingRest, UnderTheMenuTheRecordScreenOrMinimisedTheSwingNeitherFiresN
         const float aimX = rest.g.aimX;
         EXPECT_EQ(nextDueTime(rest.g), 1000); // the idle count is the only timer due
         advanceVirtualTime(rest.g, 5000);
-        EXPECT_EQ(rest.g.swingPhase, 0);
-        EXPECT_EQ(rest.g.aimX, aimX);
+        EXPECT_TRUE(rest.g.swingPhase == 0 && rest.g.aimX == aimX);
         EXPECT_TRUE(isTimerEnabled(rest.g, kTimer2)); // it rests, it isn't off
     }
 }
 
 TEST(BreakSwingRest, BackOnTheTableTheSwingGoesOnAsIfItHadSwungAllAlong) {
-    Swing rested(true);
-    Swing swung(false);
-    rested.showTableAt(30007, 30500);
-    swung.showTableAt(30007, 30500);
-    EXPECT_EQ(rested.g.swingPhase, swung.g.swingPhase); // to the bit, rounding step by step
-    EXPECT_EQ(nextDueTime(rested.g), 30510);
-    EXPECT_EQ(rested.g.timers[kTimer2].dueAt, swung.g.timers[kTimer2].dueAt);
+    const GameState rested = Swing(true).showTableAt(30007, 30500).g;
+    const GameState swung = Swing(false).showTableAt(30007, 30500).g;
+    EXPECT_EQ(rested.swingPhase, swung.swingPhase); // to the bit, rounding step by step
+    EXPECT_EQ(nextDueTime(rested), 30510);
+    EXPECT_EQ(rested.timers[kTimer2].dueAt, swung.timers[kTimer2].dueAt);
     // How long the menu stood decides where the break swings from.
-    Swing shorter(true);
-    Swing longer(true);
-    shorter.showTableAt(30000, 30000);
-    longer.showTableAt(30010, 30010);
-    EXPECT_NE(shorter.g.swingPhase, longer.g.swingPhase);
-    EXPECT_NE(shorter.g.swingPhase, 0);
+    const float shorter = Swing(true).showTableAt(30000, 30000).g.swingPhase;
+    EXPECT_NE(shorter, Swing(true).showTableAt(30010, 30010).g.swingPhase);
+    EXPECT_NE(shorter, 0);
 
     GameState huge;
     huge.swingPhase = 1 << 23; // a step rounds to nothing at this size: the carrying on stops

@@ -46,10 +46,9 @@ TEST_F(Settings, AFirstStartTurnsEverythingOnAndWritesTheThreeKeysInOrder) {
 TEST_F(Settings, StoredValuesAreReadAndWrittenBackInTheirOwnForm) {
     writeFile("MORVANE.INI", "[morvane]\nhicolor=1\nSOUND=2\nBGM=5\n");
     start();
-    EXPECT_EQ(g.hiColor, 1) << "this run still loads the picture files";
-    EXPECT_EQ(g.soundOn, 0) << "2 is not 1, so the sound goes off";
+    // This run still loads the picture files; 2 is not 1, so the sound goes off.
+    EXPECT_EQ(std::tie(g.hiColor, g.soundOn, g.bgmOn), std::tuple(1, 0, -1));
     EXPECT_FALSE(g.controls.soundPicOn || g.controls.mnuSoundChecked);
-    EXPECT_EQ(g.bgmOn, -1);
     EXPECT_EQ(settings(), "[morvane]\nhicolor=-1\nSOUND= 0\nBGM=-1\n");
 
     writeFile("MORVANE.INI", "[MORVANE]\nHiColor=0\nSOUND=on\nBGM=off\n");
@@ -77,9 +76,9 @@ TEST_F(Settings, MusicOffClosesEveryTrackAndOnComesBackWithTheMenuTrack) {
     picBGM_Click(g, 0);
     EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(0, -1, 2));
     EXPECT_FALSE(isTimerEnabled(g, kTimBGM) || g.controls.bgmPicOn);
-    EXPECT_EQ(sound.music,
-              (std::vector<std::string>{"close menu.mid", "close record.mid", "close game1.mid",
-                                        "close game2.mid", "close game3.mid"}));
+    ASSERT_EQ(sound.music.size(), 5u);
+    for (int i = 0; i < kBgmTrackCount; ++i)
+        EXPECT_EQ(sound.music[size_t(i)], "close " + g.bgmTracks[i].file);
     EXPECT_EQ(settings(), "[MORVANE]\nBGM= 0\n");
 
     g.nowMs = 1000;
@@ -105,8 +104,7 @@ TEST_F(Settings, TheColourSwitchSpeaksOnlyWhenTheWindowShowsAndTheValueChanges) 
     g.controls.mainWindowVisible = false;
     picColor_Click(g, 0); // window hidden
     EXPECT_EQ(screen.messages.size(), 2u);
-    EXPECT_EQ(std::tie(g.hiColorPending, g.hiColor), std::tuple(0, -1))
-        << "this run's pictures stay";
+    EXPECT_EQ(std::tie(g.hiColorPending, g.hiColor), std::tuple(0, -1)); // this run's pictures
 }
 
 } // namespace
