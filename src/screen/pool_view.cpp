@@ -8,6 +8,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace morvane {
 
 namespace {
@@ -35,17 +37,43 @@ void repaintMovedMarker(QWidget& view, const MarkerState& painted, const MarkerS
     view.update(markerSquare(now));
 }
 
-// An outline of ballPixels across with its top left corner at the marker's place.
-void drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour) {
-    if (!marker.visible)
-        return;
+// An outline of ballPixels across in the square.
+void drawOutline(QPainter& painter, const QRect& square, QRgb colour) {
     painter.setPen(QColor(colour));
     painter.setBrush(Qt::NoBrush);
-    const QRect square = markerSquare(marker);
     painter.drawEllipse(square.adjusted(0, 0, -1, -1));
 }
 
+// The outline alone on a clear square, at the pixel ratio of the view it will be copied to.
+QImage outlinePicture(QRgb colour, qreal ratio) {
+    const int side = qRound(kBallPixels * ratio);
+    QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawOutline(painter, QRect(0, 0, kBallPixels, kBallPixels), colour);
+    return picture;
+}
+
 } // namespace
+
+// The outline with its top left corner at the marker's place. The swing moves the aim's outline
+// a hundred times a second, and the raster engine draws an ellipse far slower than it copies a
+// picture of one; at a whole pixel ratio the copy has the very pixels the ellipse would have.
+void PoolView::drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour) {
+    if (!marker.visible)
+        return;
+    const QRect square = markerSquare(marker);
+    const qreal ratio = painter.device()->devicePixelRatio();
+    if (ratio != std::floor(ratio)) {
+        drawOutline(painter, square, colour);
+        return;
+    }
+    QImage& outline = outlines_[{colour, ratio}];
+    if (outline.isNull())
+        outline = outlinePicture(colour, ratio);
+    painter.drawImage(square.topLeft(), outline);
+}
 
 PoolView::PoolView(const GameState& g, const QImage& view, QWidget* parent)
     : QWidget(parent), g_(g), view_(view), lblZephsMessage_(new QLabel(this)) {

@@ -7,6 +7,9 @@
 #include <QLabel>
 #include <QWidget>
 
+#include <map>
+#include <utility>
+
 namespace morvane {
 
 class PoolView : public QWidget {
@@ -30,11 +33,14 @@ class PoolView : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    void drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour);
+
     const GameState& g_;
     const QImage& view_;
     QLabel* lblZephsMessage_;
     MarkerState paintedTarget_;
     MarkerState paintedQBall_;
+    std::map<std::pair<QRgb, qreal>, QImage> outlines_; // by colour and pixel ratio
 };
 
 } // namespace morvane

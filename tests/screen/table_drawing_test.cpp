@@ -117,6 +117,21 @@ TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
     EXPECT_EQ(qRgb(255, 0, 0), shown(190, 150));
 }
 
+TEST_P(TableDrawingTest, AMarkersOutlineHasThePixelsOfAnEllipseDrawnInItsPlace) {
+    screen->drawTable();
+    g.controls.target.visible = false;
+    g.controls.qBall.visible = false;
+    window->syncControlsFromState();
+    QImage expected = window->picPool()->grab().toImage();
+    QPainter painter(&expected);
+    painter.setPen(QColor(0, 255, 255));
+    painter.drawEllipse(QRect(300, 103, 19, 19));
+    painter.end();
+    g.controls.target = {300.4f, 102.6f, true};
+    window->syncControlsFromState();
+    EXPECT_EQ(expected, window->picPool()->grab().toImage());
+}
+
 INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),
                          [](const auto& scale) { return std::to_string(scale.param) + "x"; });
 
