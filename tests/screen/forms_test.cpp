@@ -1,4 +1,5 @@
-// The message box sized to its text, closed by any key; the information bar's line by mode.
+// The message box sized to its text, centred in it, closed by any key; the information bar's line
+// by mode.
 #include "screen_fixture.h"
 
 #include "screen/information_bar.h"
@@ -6,6 +7,8 @@
 
 #include <QTest>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace morvane::testing {
 namespace {
@@ -32,6 +35,30 @@ TEST_F(FormsTest, TheMessageBoxIsModalSizedToItsTextAndClosedByAnyKey) {
     // A Japanese character counts as one.
     EXPECT_DOUBLE_EQ(layoutMessageBox("ab", 12, 990).formWidth,
                      layoutMessageBox("あい", 12, 990).formWidth);
+}
+
+TEST_F(FormsTest, TheMessagesTextStandsInTheMiddleOfItsBox) {
+    QImage ok(66, 34, QImage::Format_RGB32);
+    ok.fill(Qt::black);
+    for (const char* text : {"Foul !", "A", "Scratch ! Ball in hand for the other"}) {
+        SCOPED_TRACE(text);
+        MessageBoxForm form(text, ok, nullptr);
+        const QImage drawn = form.grab().toImage();
+        const QRect label = form.lblMsg()->geometry();
+        int left = drawn.width();
+        int right = -1;
+        for (int y = label.top(); y <= label.bottom(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x) {
+                const QRgb pixel = drawn.pixel(x, y);
+                if (qGreen(pixel) > 128 && qRed(pixel) < 128) { // the text's green
+                    left = std::min(left, x);
+                    right = std::max(right, x);
+                }
+            }
+        }
+        ASSERT_LT(left, right);
+        EXPECT_NEAR((left + right + 1) / 2.0, form.width() / 2.0, 2.0);
+    }
 }
 
 TEST_F(FormsTest, TheInformationLineFollowsTheMode) {

@@ -48,13 +48,17 @@ TEST_F(HelpPageTest, TheGamesOwnWindowShowsThePageOnlyWhereTheDesktopCannot) {
     EXPECT_TRUE(shown.isNull() && !screen->helpWindow()) << "Escape closes it";
 }
 
-TEST_F(HelpPageTest, TheWindowKeepsThePlayersLanguageAlone) {
+TEST_F(HelpPageTest, TheWindowKeepsThePlayersLanguageAloneAndTellsTheBreakAsItPlays) {
     const QString english = HelpWindow(kSourcePage, false).toPlainText();
     const QString japanese = HelpWindow(kSourcePage, true).toPlainText();
     const QString howToPlay = QString::fromUtf8("遊び方");
     EXPECT_TRUE(english.contains("How to play") && !english.contains(howToPlay));
     EXPECT_FALSE(english.contains(QString::fromUtf8("日本語"))) << "no links between languages";
     EXPECT_TRUE(japanese.contains(howToPlay) && !japanese.contains("How to play"));
+    // On the break the aim swings by itself, and the cue ball may stand anywhere.
+    EXPECT_FALSE(english.contains("head string", Qt::CaseInsensitive));
+    EXPECT_TRUE(english.contains("swings by itself") && english.contains("anywhere on the"));
+    EXPECT_TRUE(japanese.contains(QString::fromUtf8("台のどこにでも置けます")));
     EXPECT_EQ(QString::fromUtf8("MORVANE ヘルプ"), HelpWindow(kSourcePage, true).windowTitle());
     EXPECT_TRUE(HelpWindow("/nonexistent/help.html", false).toPlainText().contains("/nonexi"));
 }
