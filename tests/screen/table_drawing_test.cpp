@@ -1,9 +1,12 @@
 // The frame as the back buffer holds it: balls over shadows over the cloth, the shadow thrown to
 // the lower right except in a pocket's mouth, and kept off the rail. Each case runs on surfaces
 // of scale 1 and of scale 2, with every place in the layout's pixels.
+#include "picture_names.h"
 #include "screen_fixture.h"
 
 #include "screen/table_drawing.h"
+
+#include <cstring>
 
 namespace morvane::testing {
 namespace {
@@ -130,6 +133,42 @@ TEST_P(TableDrawingTest, AMarkersOutlineHasThePixelsOfAnEllipseDrawnInItsPlace) 
     g.controls.target = {300.4f, 102.6f, true};
     window->syncControlsFromState();
     EXPECT_EQ(expected, window->picPool()->grab().toImage());
+}
+
+// At scale 1, on the game's own sheet, a sprite is a mask ANDed and a ball XORed straight onto
+// the 32-bit surface, one raster operation each, so the frame is the same to the bit as it has
+// always been.
+TEST_F(ScreenTest, AtScaleOneEachSpriteIsOneAndAndOneXorOnTheSheetsSurface) {
+    putBallAtPixel(0, 140, 150);
+    putBallAtPixel(1, 390, 150);
+    putBallAtPixel(5, 45, 45); // in a corner pocket's mouth: the shadow falls straight under
+    putBallAtPixel(9, 403.3f, 141.6f);
+    g.Balls[9].speed = 2;
+    putBallAtPixel(7, 510, 270);
+    Surfaces s =
+        makeSurfaces(scaledPicture(pictures::kTable, 1), scaledPicture(pictures::kSetPoint, 1));
+    drawTableFrame(g, s);
+
+    QImage expected = s.picTable.copy(0, 0, kSheetWidth, kTableBlockHeight);
+    QPainter p(&expected);
+    const auto stamp = [&](QPoint at, QPoint cell) {
+        p.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
+        p.drawImage(at, s.picBalls, QRect(kMaskX, kMaskY, kCell, kCell));
+        p.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+        p.drawImage(at, s.picBalls, QRect(cell, QSize(kCell, kCell)));
+    };
+    for (const BallType& ball : g.Balls)
+        if (ball.onTable)
+            stamp(shadowCellOrigin(ball), QPoint(kShadowX, kShadowY));
+    for (int i = 0; i < kBallCount; ++i)
+        if (g.Balls[i].onTable)
+            stamp(ballCellOrigin(g.Balls[i]),
+                  QPoint(kCell * i, g.Balls[i].speed != 0 ? kRollingRow : kRestingRow));
+    p.end();
+    ASSERT_EQ(expected.size(), s.backBuffer.size());
+    ASSERT_EQ(expected.bytesPerLine(), s.backBuffer.bytesPerLine());
+    EXPECT_EQ(0, std::memcmp(expected.constBits(), s.backBuffer.constBits(),
+                             size_t(expected.sizeInBytes())));
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),
