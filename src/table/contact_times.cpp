@@ -99,6 +99,30 @@ inline float timeBetween(const BallType& bi, const BallType& bj) {
     return t < 0 ? 0.0f : float(t); // already overlapping: at once
 }
 
+// The two cushions that face each other across one axis of the table: the one a ball running
+// down the axis meets, and the one a ball running up it meets.
+struct FacingCushions {
+    float lowLine;
+    int lowCushion;
+    float highLine;
+    int highCushion;
+};
+constexpr FacingCushions kAcross{kCushionLeftX, kCushionLeft, kCushionRightX, kCushionRight};
+constexpr FacingCushions kUpAndDown{kCushionBottomY, kCushionBottom, kCushionTopY, kCushionTop};
+
+// Offers the cushion that ball i runs towards along one axis, at position with velocity v. A
+// cushion that the ball runs away from or along gives no contact, and one it cannot reach
+// before the best time so far or the frame's end is not worked out.
+inline void offerCushionAhead(NextContact& next, int i, float position, float v,
+                              const FacingCushions& sides, float timeLeft) {
+    if (!(v < 0 || v > 0))
+        return;
+    const bool low = v < 0;
+    const float line = low ? sides.lowLine : sides.highLine;
+    if (isLineWithinReach(line, position, v, minOf(next.time, timeLeft)))
+        next.offer(timeToLine(line, position, v), i, low ? sides.lowCushion : sides.highCushion);
+}
+
 } // namespace
 
 float timeToCushion(const BallType& b, int cushionId) {
@@ -145,19 +169,8 @@ NextContact findNextContact(const BallArray& balls, float timeLeft) {
     for (unsigned rest = moving; rest != 0; rest &= rest - 1) {
         const int i = std::countr_zero(rest);
         const BallType& bi = balls[i];
-        // A cushion that the ball runs away from or along gives no contact: it is not asked.
-        if (bi.vx < 0 || bi.vx > 0) {
-            const bool left = bi.vx < 0;
-            const float line = left ? kCushionLeftX : kCushionRightX;
-            if (isLineWithinReach(line, bi.x, bi.vx, minOf(next.time, timeLeft)))
-                next.offer(timeToLine(line, bi.x, bi.vx), i, left ? kCushionLeft : kCushionRight);
-        }
-        if (bi.vy < 0 || bi.vy > 0) {
-            const bool top = bi.vy > 0;
-            const float line = top ? kCushionTopY : kCushionBottomY;
-            if (isLineWithinReach(line, bi.y, bi.vy, minOf(next.time, timeLeft)))
-                next.offer(timeToLine(line, bi.y, bi.vy), i, top ? kCushionTop : kCushionBottom);
-        }
+        offerCushionAhead(next, i, bi.x, bi.vx, kAcross, timeLeft);
+        offerCushionAhead(next, i, bi.y, bi.vy, kUpAndDown, timeLeft);
         const unsigned lowerMoving = moving & ((1u << i) - 1);
         unsigned partners = onTable & ~lowerMoving & ~(1u << i);
         if (partners == 0)
