@@ -104,13 +104,14 @@ void BM_OpenAndCloseATune(benchmark::State& state) {
 }
 BENCHMARK(BM_OpenAndCloseATune)->Iterations(10)->Unit(benchmark::kMillisecond);
 
-// Ten seconds of the mixer at a device's pace, playing the menu tune (argument 1) or nothing
-// (argument 0); the share of one processor it took.
+// Ten seconds of the mixer at a device's pace, playing the menu tune (first argument 1) or
+// nothing (0), with a device buffer of the second argument's samples; the share of one processor
+// it took.
 void BM_ProcessorWhileMusicPlays(benchmark::State& state) {
     constexpr Uint32 kListenMs = 10000;
     ::setenv("SDL_AUDIODRIVER", "disk", 1);
     ::setenv("SDL_DISKAUDIOFILE", "/dev/null", 1);
-    SdlSound sound(kFolder);
+    SdlSound sound(kFolder, std::cerr, int(state.range(1)));
     if (state.range(0) != 0) {
         sound.sendMusic("open menu.mid");
         sound.sendMusic("play menu.mid");
@@ -125,7 +126,10 @@ void BM_ProcessorWhileMusicPlays(benchmark::State& state) {
     state.counters["cpu_percent"] = 100.0 * share;
     state.counters["peak_resident_mb"] = peakResidentMegabytes();
 }
-BENCHMARK(BM_ProcessorWhileMusicPlays)->Arg(0)->Arg(1)->Iterations(1)->Unit(benchmark::kSecond);
+BENCHMARK(BM_ProcessorWhileMusicPlays)
+    ->ArgsProduct({{0, 1}, {512, 1024}})
+    ->Iterations(1)
+    ->Unit(benchmark::kSecond);
 
 // The mixed output as it leaves the mixer: how many frames went by and how many samples of
 // each channel sat at full scale, where the sum of music and effect was cut off.

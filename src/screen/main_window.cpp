@@ -51,10 +51,7 @@ QString labelColour(bool hover) {
         .arg(QColor(hover ? kLabelHover : kLabelRest).name());
 }
 
-// A screen shows a frame every 16.7 ms at 60 Hz; the break swing moves the aim marker every 10.
-constexpr int64_t kFrameMs = 16;
-
-// The break swing moves the aim marker a hundred times a second and changes nothing else. Takes
+// The break swing moves the aim marker once a frame and changes nothing else. Takes
 // the markers of `now` into `shown` (they are drawn apart from the other controls), then compares
 // the rest, without a copy of the captions on every tick.
 bool onlyMarkersDiffer(ControlsState& shown, const ControlsState& now) {
@@ -268,10 +265,8 @@ void MainWindow::mouseMoveEvent(QMouseEvent*) {
 
 void MainWindow::syncControlsFromState() {
     const ControlsState& c = g_.controls;
-    const bool cueBallMoved = shownControls_ && !(shownControls_->qBall == c.qBall);
     if (shownControls_ && onlyMarkersDiffer(*shownControls_, c)) {
-        if (cueBallMoved || !holdsSwingRepaint())
-            repaintMarkers();
+        picPool_->syncFromState();
         return;
     }
     shownControls_ = c;
@@ -294,21 +289,9 @@ void MainWindow::syncControlsFromState() {
     menu_->syncFromState(c);
     picMenu_->syncFromState(g_);
     picScore_->syncFromState();
-    repaintMarkers();
+    picPool_->syncFromState();
     picSetPoint_->syncFromState();
     syncing_ = false;
-}
-
-// While the break swings, the aim marker moves faster than a screen shows frames: it is drawn at
-// most once a frame, and a move held back is drawn by the next tick of the swing, 10 ms later, or
-// by the sync that stops it. A move of the cue ball's marker, which the mouse makes, is never held.
-bool MainWindow::holdsSwingRepaint() const {
-    return g_.timers[kTimer2].enabled && g_.nowMs - markersRepaintedAt_ < kFrameMs;
-}
-
-void MainWindow::repaintMarkers() {
-    markersRepaintedAt_ = g_.nowMs;
-    picPool_->syncFromState();
 }
 
 } // namespace morvane

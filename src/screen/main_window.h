@@ -19,7 +19,6 @@
 #include <QWidget>
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <optional>
 
 namespace morvane {
@@ -69,8 +68,6 @@ class MainWindow : public QWidget {
     void connectScoreScreen();
     void connectHiddenMenu();
     void menuPictureClicked(MenuPicture which, int index);
-    bool holdsSwingRepaint() const;
-    void repaintMarkers();
     // Runs a handler on the game state, then shows what it changed.
     template <typename Handler> void handle(Handler handler) {
         handler(g_);
@@ -94,7 +91,6 @@ class MainWindow : public QWidget {
     std::optional<ControlsState> shownControls_; // what the controls were last brought to
     bool syncing_ = false;
     // The game clock when the markers were last shown: long ago at first.
-    int64_t markersRepaintedAt_ = std::numeric_limits<int64_t>::min() / 2;
 };
 
 } // namespace morvane

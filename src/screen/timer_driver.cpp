@@ -67,7 +67,7 @@ void TimerDriver::start() {
 void TimerDriver::sleepUntilNextDue() {
     if (!clock_.isValid())
         return; // not started
-    const int64_t due = nextDueTime(g_);
+    const int64_t due = nextFrameWakeTime(g_);
     if (due == wakeFor_ && (due < 0 || timer_.isActive()))
         return;
     wakeFor_ = due;

@@ -1,7 +1,7 @@
 // Drives the game's timers with real time: one precise Qt timer sleeps until the next timer is
-// due and runs the due ones through the scheduler. Whenever the event loop is about to wait, the
-// wake is set again, since any handler may have switched a timer on or off; with no timer on, the
-// program sleeps until an event comes.
+// due, or for the break swing until its next frame, and runs the due ones through the scheduler.
+// Whenever the event loop is about to wait, the wake is set again, since any handler may have
+// switched a timer on or off; with no timer on, the program sleeps until an event comes.
 //
 // Two opt-in logs: MORVANE_TICK_LOG=file writes down every game tick, when it started and what
 // it cost; MORVANE_TIMER_LOG=file writes down when each tick of Timer1 and Timer2 came and, from a

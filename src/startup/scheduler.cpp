@@ -18,6 +18,8 @@ constexpr int32_t kTimComInterval = 100;
 constexpr int32_t kTimDemoInterval = 1000;
 constexpr int32_t kTimTimeCounterInterval = 1000;
 constexpr int32_t kTimBgmInterval = 500;
+// A frame of a screen at 60 Hz, whole milliseconds.
+constexpr int64_t kFrameMs = 16;
 
 // The break swing moves nothing but the aim marker on the table; while the menu or the record
 // screen covers the table, or the window is minimised, nobody could see it, and it rests.
@@ -116,17 +118,44 @@ bool isTimerDue(const GameState& g, TimerId timer, int64_t nowMs) {
     return mayFire(g, timer) && g.timers[timer].dueAt <= nowMs;
 }
 
-int64_t nextDueTime(const GameState& g) {
+namespace {
+
+// The first tick of the swing due a whole frame or more after the last one it ran.
+int64_t nextSwingFrame(const TimerState& swing) {
+    const int64_t lastTick = swing.dueAt - swing.interval;
+    int64_t due = swing.dueAt;
+    while (due - lastTick < kFrameMs)
+        due += swing.interval;
+    return due;
+}
+
+// The soonest of the due times that `dueOf` gives the timers that may fire, or -1 when none may.
+template <typename DueOf> int64_t soonestDue(const GameState& g, DueOf dueOf) {
     int64_t best = -1;
     for (int i = 0; i < kTimerCount; ++i) {
-        const TimerState& t = g.timers[i];
-        if (mayFire(g, TimerId(i)) && (best < 0 || t.dueAt < best))
-            best = t.dueAt;
+        if (!mayFire(g, TimerId(i)))
+            continue;
+        const int64_t due = dueOf(TimerId(i));
+        if (best < 0 || due < best)
+            best = due;
     }
     // A swing back from its rest is overdue: it fires now, not back then.
     if (best >= 0 && best < g.nowMs)
         best = g.nowMs;
     return best;
+}
+
+} // namespace
+
+int64_t nextDueTime(const GameState& g) {
+    return soonestDue(g, [&](TimerId id) { return g.timers[id].dueAt; });
+}
+
+int64_t nextFrameWakeTime(const GameState& g) {
+    return soonestDue(g, [&](TimerId id) {
+        const TimerState& t = g.timers[id];
+        return id == kTimer2 ? nextSwingFrame(t) : t.dueAt;
+    });
 }
 
 void advanceVirtualTime(GameState& g, int64_t untilMs) {

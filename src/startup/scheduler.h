@@ -6,6 +6,10 @@
 // The break swing rests while the menu or the record screen covers the table, or the window is
 // minimised: it neither fires nor counts as due, and comes back with its phase carried on by the
 // ticks it missed.
+//
+// A window need not wake for every tick of the swing: a screen shows a new frame only every
+// 16.7 ms at 60 Hz, and the swing moves nothing but the aim marker. It wakes for the swing once a
+// frame, and the ticks it slept through are carried on then, each a tick of its own.
 #pragma once
 
 #include "game/game_state.h"
@@ -30,6 +34,9 @@ bool isTimerDue(const GameState& g, TimerId timer, int64_t nowMs);
 // When the next timer that may fire is due (now, if one is overdue), or -1 when none is on; a
 // resting swing is not on.
 int64_t nextDueTime(const GameState& g);
+// When a window that shows the game should next wake: as nextDueTime, but a wake for the swing
+// alone waits for the first of its ticks due a whole frame after the last one it ran.
+int64_t nextFrameWakeTime(const GameState& g);
 
 template <typename Done> bool advanceUntil(GameState& g, int64_t limitMs, Done done) {
     while (!done()) {

@@ -111,4 +111,21 @@ TEST(BreakSwingRest, BackOnTheTableTheSwingGoesOnAsIfItHadSwungAllAlong) {
     EXPECT_EQ(huge.swingPhase, float(1 << 23));
 }
 
+// A window wakes for the swing once a frame, and each wake runs the ticks due by then: the
+// marker stands where a tick by tick run has it, and the other timers wake on time.
+TEST(BreakSwingFrames, TheWindowWakesForTheSwingOnceAFrameAndTheSwingKeepsItsPace) {
+    Swing paced(false);
+    Swing ticked(false);
+    int wakes = 0;
+    for (int64_t at = nextFrameWakeTime(paced.g); at <= 1000; at = nextFrameWakeTime(paced.g)) {
+        runDueTimers(paced.g, at);
+        advanceVirtualTime(ticked.g, at);
+        EXPECT_EQ(paced.g.swingPhase, ticked.g.swingPhase) << at;
+        EXPECT_TRUE(paced.g.controls.target == ticked.g.controls.target) << at;
+        ++wakes;
+    }
+    EXPECT_EQ(wakes, 50) << "a wake every second tick, the idle count's at 1000 among them";
+    EXPECT_EQ(nextDueTime(paced.g), 1010);
+}
+
 } // namespace
