@@ -1,13 +1,12 @@
 // The table sheet, as the program carries it and as the 256-colour file, keeps the layout the
 // table view blits from: each ball filling its disc and numbered only at rest, the cloth,
-// pockets, spots and rail in place, the mode icons and small balls on black.
+// pockets, spots and rail in place.
 #include "picture_names.h"
 #include "support/asset_files.h"
 
 #include <QImage>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <set>
 
 namespace {
 
@@ -73,27 +72,6 @@ TEST_P(SheetTest, TheTableHasClothPocketsSpotsAndARail) {
         const QColor wood(at(p.x(), p.y()));
         EXPECT_TRUE(wood.red() > wood.green() && wood.green() > wood.blue()) << p.x();
     }
-}
-
-TEST_P(SheetTest, ModeIconsAndSmallBallsStandOnBlackAndTheRestIsWhite) {
-    for (int left : {220, 245, 270}) {
-        std::set<QRgb> colours;
-        for (int y = 0; y < 25; ++y)
-            for (int x = 0; x < 25; ++x)
-                colours.insert(at(left + x, 301 + y));
-        EXPECT_EQ(at(left, 301), 0u);
-        EXPECT_GT(colours.size(), 2u) << "icon at " << left;
-    }
-    for (int i = 0; i < 10; ++i) {
-        EXPECT_EQ(at(10 * i, 340), 0u);
-        EXPECT_NE(at(10 * i + 5, 345), 0u);
-        EXPECT_NE(at(10 * i + 5, 355), 0u);
-    }
-    for (QPoint p : {QPoint(300, 300), QPoint(400, 340), QPoint(150, 345), QPoint(480, 359)})
-        EXPECT_EQ(at(p.x(), p.y()), 0xffffffu) << p.x() << "," << p.y();
-    // Only the file carries the hit point's ball, a light one with a grey corner.
-    EXPECT_EQ(GetParam(), QColor(at(517, 322)).lightness() > 150 && at(517, 322) != 0xffffff);
-    EXPECT_EQ(GetParam(), at(496, 301) != 0xffffff);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothSheets, SheetTest, ::testing::Bool(),
