@@ -80,10 +80,7 @@ TEST_F(Tunes, ACloseWinsOverAReadStillUnderWayAndTheTuneIsLetGo) {
     EXPECT_EQ(tracks->tunesInMemory(), 0);
 }
 
-TEST(TuneFile, AWholeMidiFileHasNoProblemAndItsTracksMustEndInsideIt) {
-    const TuneFile menu = readTuneFile(runtimeFolder() / "menu.mid");
-    EXPECT_EQ(std::tuple(menu.problem, menu.bytes.size() > 100), std::tuple("", true));
-
+TEST(TuneFile, AMidiFileNeedsItsHeaderAndATrackThatEndsInsideIt) {
     std::vector<unsigned char> header = {'M', 'T', 'h', 'd', 0, 0, 0, 6, 0, 1, 0, 1, 1, 224};
     EXPECT_EQ(midiProblem(header), "a MIDI file without tracks");
     std::vector<unsigned char> withTrack = header;

@@ -22,12 +22,6 @@ inline std::vector<uint8_t> readBytes(const std::string& name) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-inline uint32_t le16(const std::vector<uint8_t>& b, size_t at) {
-    return b.at(at) | (b.at(at + 1) << 8);
-}
-inline uint32_t le32(const std::vector<uint8_t>& b, size_t at) {
-    return le16(b, at) | (le16(b, at + 2) << 16);
-}
 inline uint32_t be16(const std::vector<uint8_t>& b, size_t at) {
     return (b.at(at) << 8) | b.at(at + 1);
 }
