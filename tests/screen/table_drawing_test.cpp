@@ -27,7 +27,6 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     putBallAtPixel(3, 510, 270);
     putBallAtPixel(4, 100, 45);
     screen->drawTable();
-    EXPECT_EQ(QPoint(260, 140), ballCellOrigin(g.Balls[1]));
     // Ball 1 covers 260 to 279, its shadow beyond it on the right and below; in a pocket's mouth
     // (ball 2) the shadow stays under the ball; deep in a corner (3) it is kept off the rail;
     // along the rail, away from any mouth (4), it is thrown.
@@ -39,8 +38,6 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     for (QPoint p : {QPoint(259, 150), QPoint(270, 139), QPoint(55, 45), QPoint(45, 55)})
         EXPECT_EQ(kCloth, backPixel(p.x(), p.y())) << p.x() << "," << p.y();
     EXPECT_EQ(restingColour(1), backPixel(270, 150));
-    putBallAtPixel(2, 270, 45);
-    EXPECT_EQ(QPoint(260, 35), shadowCellOrigin(g.Balls[2])) << "the middle pocket";
 }
 
 TEST_P(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumber) {
@@ -61,25 +58,6 @@ TEST_P(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumbe
     EXPECT_EQ(rollingColour(4), backPixel(200, 100));
 }
 
-TEST_P(TableDrawingTest, DemoWordsStandUnderTheBallsAndHigherNumbersOverLowerOnes) {
-    const auto demoGreenPixels = [this] {
-        int n = 0;
-        for (int y = 0; y < 300; ++y)
-            for (int x = 0; x < 540; ++x)
-                n += backPixel(x, y) == qRgb(0, 128, 0);
-        return n;
-    };
-    screen->drawTable();
-    EXPECT_EQ(0, demoGreenPixels());
-    g.gameMode = kModeDemo;
-    putBallAtPixel(6, 200, 150);
-    putBallAtPixel(7, 205, 150);
-    screen->drawTable();
-    EXPECT_GT(demoGreenPixels(), 1000);
-    EXPECT_EQ(restingColour(7), backPixel(200, 150));
-    EXPECT_EQ(restingColour(6), backPixel(193, 150));
-}
-
 TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
     for (int i = 1; i <= 9; ++i)
         putBallAtPixel(i, 100 + 20 * i, 150);
@@ -88,12 +66,6 @@ TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
     EXPECT_EQ(restingColour(9), trayPixel(8 * 20 + 1 + 10, 11));
     for (int slot = 0; slot < 8; ++slot)
         EXPECT_EQ(kTrayGrey, trayPixel(slot * 20 + 11, 11)) << slot;
-
-    g.Balls[1].onTable = false;
-    g.Balls[9].onTable = true;
-    screen->drawTray();
-    EXPECT_EQ(restingColour(1), trayPixel(11, 11));
-    EXPECT_EQ(kTrayGrey, trayPixel(171, 11));
 }
 
 TEST_P(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
@@ -103,33 +75,23 @@ TEST_P(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
     EXPECT_EQ(kCloth, backPixel(509, 269));
 }
 
-TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
+// The view shows the last frame, and the markers' outlines over it are the pixels of ellipses
+// drawn in their places, the ball in hand's red one over the ball's picture.
+TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersOutlinedAboveIt) {
     putBallAtPixel(1, 200, 150);
-    screen->drawTable();
-    g.controls.target = {300, 100, true}; // the cyan circle's box is 300..319 by 100..119
-    g.controls.qBall = {190, 140, false};
-    const auto shown = [&](int x, int y) {
-        window->syncControlsFromState();
-        return window->picPool()->grab().toImage().pixel(x, y) | 0xff000000;
-    };
-    EXPECT_EQ(restingColour(1), shown(200, 150));
-    EXPECT_EQ(qRgb(0, 255, 255), shown(300, 110));
-    EXPECT_EQ(kCloth, shown(310, 110));
-    // With the ball in hand the red outline stands over the ball's picture.
-    g.controls.qBall.visible = true;
-    EXPECT_EQ(qRgb(255, 0, 0), shown(190, 150));
-}
-
-TEST_P(TableDrawingTest, AMarkersOutlineHasThePixelsOfAnEllipseDrawnInItsPlace) {
     screen->drawTable();
     g.controls.target.visible = false;
     g.controls.qBall.visible = false;
     window->syncControlsFromState();
     QImage expected = window->picPool()->grab().toImage();
+    EXPECT_EQ(restingColour(1), expected.pixel(200, 150) | 0xff000000);
     QPainter painter(&expected);
+    painter.setPen(QColor(255, 0, 0));
+    painter.drawEllipse(QRect(190, 140, 19, 19));
     painter.setPen(QColor(0, 255, 255));
     painter.drawEllipse(QRect(300, 103, 19, 19));
     painter.end();
+    g.controls.qBall = {190, 140, true};
     g.controls.target = {300.4f, 102.6f, true};
     window->syncControlsFromState();
     EXPECT_EQ(expected, window->picPool()->grab().toImage());
