@@ -1,15 +1,17 @@
 // The modal forms over the window: each closed by its own buttons and keys, with its texts and
-// colours, and what each hands back to the game.
+// colours, and what each hands back to the game; the message box sized to its text, the text in
+// its middle.
 #include "screen_fixture.h"
 
 #include "screen/forms/match_form.h"
 #include "screen/forms/name_form.h"
-#include "screen/forms/opening_form.h"
 #include "screen/forms/record_form.h"
 #include "screen/forms/result_form.h"
-#include "screen/forms/version_form.h"
+#include "screen/message_box.h"
 
 #include <QTest>
+
+#include <algorithm>
 
 namespace morvane::testing {
 namespace {
@@ -91,8 +93,7 @@ TEST_F(EndOfGameFormsTest, TheNameFormTakesTwelveCharactersHoweverItCloses) {
     }
 }
 
-// OK starts the match with the edited names and the length the arrows set, two steps an arrow
-// between 1 and 15.
+// OK starts the match with the edited names and the length the arrows set, two games a step.
 TEST_F(EndOfGameFormsTest, TheMatchFormsOkTakesTheEditedNamesAndTheLength) {
     g.gameMode = kModeVersus;
     g.versusCpu = false;
@@ -100,10 +101,7 @@ TEST_F(EndOfGameFormsTest, TheMatchFormsOkTakesTheEditedNamesAndTheLength) {
     g.players[1] = {"Player2     ", true, 1};
     g.matchTarget = 1;
     whenShown<MatchForm>([&](MatchForm& form) {
-        form.VScroll1()->downArrow()->click();
-        for (int i = 0; i < 10; ++i)
-            form.VScroll1()->upArrow()->click();
-        form.VScroll1()->downArrow()->click();
+        form.VScroll1()->upArrow()->click();
         QLineEdit* first = form.txtPlayerName(0);
         first->clear();
         QTest::keyClicks(first, "Maximiliano Rex");
@@ -111,7 +109,7 @@ TEST_F(EndOfGameFormsTest, TheMatchFormsOkTakesTheEditedNamesAndTheLength) {
         QTest::mouseClick(form.picOK(), Qt::LeftButton);
     });
     screen->showChangeVsMode();
-    EXPECT_TRUE(g.gameMode == kModeVersus && g.matchTarget == 13 && g.players[0].hasBreak);
+    EXPECT_TRUE(g.gameMode == kModeVersus && g.matchTarget == 3 && g.players[0].hasBreak);
     EXPECT_EQ("Maximiliano ", g.players[0].name);
     EXPECT_EQ("Ann", g.players[1].name);
     EXPECT_EQ(0, g.players[0].gamesWon + g.players[1].gamesWon);
@@ -134,27 +132,44 @@ TEST_F(EndOfGameFormsTest, TheResultPutsTheSideThatReachedTheTargetInMagenta) {
               texts);
 }
 
-TEST_F(EndOfGameFormsTest, TheSplashGoesOnItsSixthTick) {
-    int mainShown = 0;
-    OpeningForm splash(g, [&] { ++mainShown; });
-    splash.show();
-    for (int tick = 1; tick <= 6; ++tick) {
-        EXPECT_TRUE(splash.isVisible() && splash.Timer1()->isActive() && mainShown == 0);
-        splash.Timer1_Timer();
-    }
-    EXPECT_FALSE(splash.isVisible() || splash.Timer1()->isActive());
-    EXPECT_EQ(1, mainShown);
+class FormsTest : public ScreenTest {};
+
+// Half an em a character and 1.2 times that.
+TEST_F(FormsTest, TheMessageBoxIsModalSizedToItsTextAndClosedByAnyKey) {
+    window->show();
+    QSize shown;
+    screen->onMessageBox = [&](QDialog& form) {
+        shown = form.size();
+        QTimer::singleShot(0,
+                           [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Q); });
+    };
+    screen->showMessage("You missed !");
+    EXPECT_EQ(QSize(qRound(12 * 120 * 1.2 / 15), 90), shown);
+    EXPECT_EQ(1, screen->modalFormsShown());
 }
 
-TEST_F(EndOfGameFormsTest, TheVersionFormStatesTheMaster) {
-    g.zephLevel = 11;
-    QString caption;
-    whenShown<VersionForm>([&](VersionForm& shown) {
-        caption = shown.Label1()->text();
-        shown.Command1()->click();
-    });
-    screen->showVersion();
-    EXPECT_EQ(QString(" Ver.3.02\n zeph is a Master!"), caption);
+TEST_F(FormsTest, TheMessagesTextStandsInTheMiddleOfItsBox) {
+    QImage ok(66, 34, QImage::Format_RGB32);
+    ok.fill(Qt::black);
+    for (const char* text : {"Foul !", "A", "Scratch ! Ball in hand for the other"}) {
+        SCOPED_TRACE(text);
+        MessageBoxForm form(text, ok, nullptr);
+        const QImage drawn = form.grab().toImage();
+        const QRect label = form.lblMsg()->geometry();
+        int left = drawn.width();
+        int right = -1;
+        for (int y = label.top(); y <= label.bottom(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x) {
+                const QRgb pixel = drawn.pixel(x, y);
+                if (qGreen(pixel) > 128 && qRed(pixel) < 128) { // the text's green
+                    left = std::min(left, x);
+                    right = std::max(right, x);
+                }
+            }
+        }
+        ASSERT_LT(left, right);
+        EXPECT_NEAR((left + right + 1) / 2.0, form.width() / 2.0, 2.0);
+    }
 }
 
 } // namespace

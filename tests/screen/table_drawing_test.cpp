@@ -1,6 +1,7 @@
 // The frame as the back buffer holds it: balls over shadows over the cloth, the shadow thrown to
-// the lower right except in a pocket's mouth, and kept off the rail. Each case runs on surfaces
-// of scale 1 and of scale 2, with every place in the layout's pixels.
+// the lower right except in a pocket's mouth, and kept off the rail; the tray and the information
+// bar. Most cases run on surfaces of scale 1 and of scale 2, with every place in the layout's
+// pixels.
 #include "picture_names.h"
 #include "screen_fixture.h"
 
@@ -40,19 +41,11 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     EXPECT_EQ(restingColour(1), backPixel(270, 150));
 }
 
-TEST_P(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumber) {
+// A ball drawn at once stands on the view alone, at rest, while the frame keeps it rolling.
+TEST_P(TableDrawingTest, ABallDrawnNowGoesOnTheViewAloneAtRest) {
     putBallAtPixel(4, 200, 100);
-    putBallAtPixel(5, 300, 200);
-    g.Balls[5].onTable = false;
     g.Balls[4].speed = 0.001f;
     screen->drawTable();
-    EXPECT_EQ(rollingColour(4), backPixel(200, 100));
-    EXPECT_EQ(kCloth, backPixel(300, 200));
-    EXPECT_EQ(kCloth, backPixel(303, 203));
-    // The view shows the same frame; its last row is the one the 299 rows leave out.
-    EXPECT_EQ(viewPixel(200, 100), backPixel(200, 100));
-
-    // drawBallNow puts the numbered ball on the view alone, at rest.
     screen->drawBallNow(4);
     EXPECT_EQ(restingColour(4), viewPixel(200, 100));
     EXPECT_EQ(rollingColour(4), backPixel(200, 100));
@@ -131,6 +124,18 @@ TEST_F(ScreenTest, AtScaleOneEachSpriteIsOneAndAndOneXorOnTheSheetsSurface) {
     ASSERT_EQ(expected.bytesPerLine(), s.backBuffer.bytesPerLine());
     EXPECT_EQ(0, std::memcmp(expected.constBits(), s.backBuffer.constBits(),
                              size_t(expected.sizeInBytes())));
+}
+
+// The next ball to hit stands in its cell at (290, 1), inside the box's green outline.
+TEST_F(ScreenTest, TheInformationBarShowsTheNextBall) {
+    for (int i = 1; i <= 9; ++i)
+        putBallAtPixel(i, 100 + 20 * i, 150);
+    g.Balls[1].onTable = false;
+    screen->drawInformation();
+    const QImage& bar = screen->surfaces().information;
+    EXPECT_EQ((std::array{qRgb(0, 255, 0), restingColour(2), qRgb(0, 255, 0)}),
+              (std::array{bar.pixel(289, 10) | 0xff000000, bar.pixel(300, 11) | 0xff000000,
+                          bar.pixel(310, 10) | 0xff000000}));
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),

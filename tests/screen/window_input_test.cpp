@@ -104,16 +104,7 @@ TEST_F(WindowInputTest, TheMenuLabelsLightUnderTheMouseExceptDuringAShot) {
     EXPECT_FALSE(g.controls.lblMenuHover[2]);
 }
 
-TEST_F(WindowInputTest, F2RacksANewGameAndTheShotButtonFires) {
-    g.breakPending = false;
-    g.shotCount = 4;
-    g.controls.mnuStartEnabled = true;
-    window->syncControlsFromState();
-    QApplication::setActiveWindow(window.get()); // shortcuts go to the active window
-    QTest::keyClick(window.get(), Qt::Key_F2);
-    EXPECT_EQ(0, g.shotCount);
-    EXPECT_TRUE(g.breakPending);
-
+TEST_F(WindowInputTest, TheShotButtonFiresAndRestsWhileTheBallsRoll) {
     advanceVirtualTime(g, g.nowMs + 330); // the break's aim swings meanwhile
     QTest::mouseClick(window->cmdShot(), Qt::LeftButton);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1));

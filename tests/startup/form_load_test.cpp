@@ -36,8 +36,8 @@ class RecordingPlatform : public StartupPlatform {
     void placeScoreScreen() override { calls.push_back("placeScoreScreen"); }
     void quit() override { calls.push_back("quit"); }
 
-    long messages() const {
-        return std::ranges::count_if(calls, [](const auto& c) { return c.starts_with("message"); });
+    long callsStartingWith(std::string_view start) const {
+        return std::ranges::count_if(calls, [&](const auto& c) { return c.starts_with(start); });
     }
 
   private:
@@ -73,7 +73,8 @@ TEST_F(FormLoadTest, StoredSettingsAreReadSilentlyAndThePictureFilesFollowHiColo
     EXPECT_EQ(1, std::ranges::count(platform.calls, "loadFilePictures"));
     EXPECT_EQ(7, g.zephLevel);
     EXPECT_FALSE(g.soundOn || isTimerEnabled(g, kTimBGM));
-    EXPECT_EQ(0, platform.messages()) << "the picture switch is silent at start-up";
+    EXPECT_EQ(0, platform.callsStartingWith("message"))
+        << "the picture switch is silent at start-up";
     std::vector<std::string> left = folderEntries();
     std::ranges::sort(left);
     EXPECT_EQ((std::vector<std::string>{"MORVANE.INI", "MVSCORE.INI"}), left);
@@ -102,8 +103,7 @@ TEST_F(FormLoadTest, TheWayOutClosesEveryTrackBeforeTheEnd) {
     g.ports.sound = &sound;
     Form_Unload(g, platform);
     ASSERT_EQ(6u, platform.calls.size());
-    EXPECT_EQ(5, std::ranges::count_if(
-                     platform.calls, [](const auto& c) { return c.starts_with("music close "); }));
+    EXPECT_EQ(5, platform.callsStartingWith("music close "));
     EXPECT_EQ("quit", platform.calls.back());
 }
 

@@ -60,20 +60,4 @@ TEST_F(Settings, TheMusicPictureAndTheSoundMenuSwitchAndWriteTheirKeys) {
     EXPECT_EQ(settings(), "[MORVANE]\nBGM=-1\nSOUND= 0\n");
 }
 
-// The colour switch takes effect at the next start, and says so only when the window shows and
-// the value changes.
-TEST_F(Settings, TheColourSwitchSpeaksOnlyWhenTheWindowShowsAndTheValueChanges) {
-    g.controls.mainWindowVisible = true;
-    picColor_Click(g, 0);
-    EXPECT_EQ(settings(), "[MORVANE]\nHiColor= 0\n");
-    EXPECT_FALSE(g.controls.colorPicOn);
-    EXPECT_EQ(-1, g.hiColor) << "this run's pictures stay";
-    g.controls.mainWindowVisible = false;
-    picColor_Click(g, 1);
-    EXPECT_EQ(settings(), "[MORVANE]\nHiColor=-1\n");
-    g.controls.mainWindowVisible = true;
-    picColor_Click(g, 1);
-    EXPECT_EQ(screen.messages.size(), 1u);
-}
-
 } // namespace
