@@ -41,14 +41,18 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     EXPECT_EQ(restingColour(1), backPixel(270, 150));
 }
 
-// A ball drawn at once stands on the view alone, at rest, while the frame keeps it rolling.
-TEST_P(TableDrawingTest, ABallDrawnNowGoesOnTheViewAloneAtRest) {
+// A ball drawn at once, or dropping into its pocket, goes on the view alone and at rest, while the
+// frame keeps what it held.
+TEST_P(TableDrawingTest, ABallDrawnNowOrDroppingGoesOnTheViewAloneAtRest) {
     putBallAtPixel(4, 200, 100);
     g.Balls[4].speed = 0.001f;
     screen->drawTable();
     screen->drawBallNow(4);
     EXPECT_EQ(restingColour(4), viewPixel(200, 100));
     EXPECT_EQ(rollingColour(4), backPixel(200, 100));
+    screen->drawBallDrop(3, 6); // the bottom right pocket: table (2397, 3) is pixel (509.4, 269.4)
+    EXPECT_EQ(restingColour(3), viewPixel(509, 269));
+    EXPECT_EQ(kCloth, backPixel(509, 269));
 }
 
 TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
@@ -59,13 +63,6 @@ TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
     EXPECT_EQ(restingColour(9), trayPixel(8 * 20 + 1 + 10, 11));
     for (int slot = 0; slot < 8; ++slot)
         EXPECT_EQ(kTrayGrey, trayPixel(slot * 20 + 11, 11)) << slot;
-}
-
-TEST_P(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
-    screen->drawTable();
-    screen->drawBallDrop(3, 6); // the bottom right pocket: table (2397, 3) is pixel (509.4, 269.4)
-    EXPECT_EQ(restingColour(3), viewPixel(509, 269));
-    EXPECT_EQ(kCloth, backPixel(509, 269));
 }
 
 // The view shows the last frame, and the markers' outlines over it are the pixels of ellipses
