@@ -1,6 +1,6 @@
-// The program as a whole in the window: start-up to the menu, the menu screen's pictures and
-// switches, the moves between the modes through the widgets, the pop-up menu, and the record
-// screen after a game that earned a place.
+// The program as a whole in the window: start-up to the menu, the moves between the modes through
+// the widgets, Exit and the help, the pop-up menu, and the record screen and the name form after
+// a game that earned a place.
 #include "screen_fixture.h"
 
 #include "records/score_text.h"

@@ -1,5 +1,5 @@
-// The window with real mouse and key events: the hit point, the aim, the cue ball in hand, the
-// power bar and the labels at the top, and the size of the client area.
+// The window with real mouse events: the hit point, the aim, the cue ball in hand, the power bar,
+// the labels at the top and the shot button, and the colours the bar and the button wear.
 #include "screen_fixture.h"
 
 #include "game/controls.h"
