@@ -1,5 +1,5 @@
-// The window does no work while nothing it shows changes: the timer driver sleeps until the next
-// timer is due, and the table view repaints only what moved by a pixel or more.
+// The window does no work while nothing it shows changes: the timer driver sleeps while the break
+// swing rests, and the table view repaints only what moved by a pixel or more.
 #include "screen_fixture.h"
 
 #include "game/timers.h"
@@ -50,18 +50,6 @@ class QuietWindowTest : public ScreenTest {
             QCoreApplication::processEvents();
     }
 };
-
-TEST_F(QuietWindowTest, TheDriverWakesWhenTheNextTimerIsDueOrAHandlerSwitchesOneOn) {
-    TimerDriver driver(g, nullptr, nullptr);
-    driver.start();
-    EXPECT_EQ(wakeWhenIdle(driver), -1) << "no timer on: it sleeps until an event comes";
-    // One tick a second, and nothing between: not a look every few milliseconds.
-    const int wake = wakeWhenIdle(driver, [&] { setTimerEnabled(g, kTimDemo, true); });
-    EXPECT_GT(wake, 900);
-    EXPECT_LE(wake, 1000);
-    // A click's handler racks a game: the break swing starts within a frame, not a second later.
-    EXPECT_LE(wakeWhenIdle(driver, [&] { setTimerEnabled(g, kTimer2, true); }), 20);
-}
 
 TEST_F(QuietWindowTest, UnderTheMenuOrMinimisedTheRestingSwingWakesNobody) {
     setTimerEnabled(g, kTimDemo, true);

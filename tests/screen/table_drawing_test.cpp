@@ -1,6 +1,7 @@
 // The frame as the back buffer holds it: balls over shadows over the cloth, the shadow thrown to
-// the lower right except in a pocket's mouth, and kept off the rail. Each case runs on surfaces
-// of scale 1 and of scale 2, with every place in the layout's pixels.
+// the lower right except in a pocket's mouth, and kept off the rail; the tray and the information
+// bar. Most cases run on surfaces of scale 1 and of scale 2, with every place in the layout's
+// pixels.
 #include "picture_names.h"
 #include "screen_fixture.h"
 
@@ -27,7 +28,6 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     putBallAtPixel(3, 510, 270);
     putBallAtPixel(4, 100, 45);
     screen->drawTable();
-    EXPECT_EQ(QPoint(260, 140), ballCellOrigin(g.Balls[1]));
     // Ball 1 covers 260 to 279, its shadow beyond it on the right and below; in a pocket's mouth
     // (ball 2) the shadow stays under the ball; deep in a corner (3) it is kept off the rail;
     // along the rail, away from any mouth (4), it is thrown.
@@ -39,45 +39,20 @@ TEST_P(TableDrawingTest, ShadowFallsTwoPixelsRightAndBelowButNotInAPocketsMouthN
     for (QPoint p : {QPoint(259, 150), QPoint(270, 139), QPoint(55, 45), QPoint(45, 55)})
         EXPECT_EQ(kCloth, backPixel(p.x(), p.y())) << p.x() << "," << p.y();
     EXPECT_EQ(restingColour(1), backPixel(270, 150));
-    putBallAtPixel(2, 270, 45);
-    EXPECT_EQ(QPoint(260, 35), shadowCellOrigin(g.Balls[2])) << "the middle pocket";
 }
 
-TEST_P(TableDrawingTest, BallsOffTheTableAreNotDrawnAndMovingBallsLoseTheirNumber) {
+// A ball drawn at once, or dropping into its pocket, goes on the view alone and at rest, while the
+// frame keeps what it held.
+TEST_P(TableDrawingTest, ABallDrawnNowOrDroppingGoesOnTheViewAloneAtRest) {
     putBallAtPixel(4, 200, 100);
-    putBallAtPixel(5, 300, 200);
-    g.Balls[5].onTable = false;
     g.Balls[4].speed = 0.001f;
     screen->drawTable();
-    EXPECT_EQ(rollingColour(4), backPixel(200, 100));
-    EXPECT_EQ(kCloth, backPixel(300, 200));
-    EXPECT_EQ(kCloth, backPixel(303, 203));
-    // The view shows the same frame; its last row is the one the 299 rows leave out.
-    EXPECT_EQ(viewPixel(200, 100), backPixel(200, 100));
-
-    // drawBallNow puts the numbered ball on the view alone, at rest.
     screen->drawBallNow(4);
     EXPECT_EQ(restingColour(4), viewPixel(200, 100));
     EXPECT_EQ(rollingColour(4), backPixel(200, 100));
-}
-
-TEST_P(TableDrawingTest, DemoWordsStandUnderTheBallsAndHigherNumbersOverLowerOnes) {
-    const auto demoGreenPixels = [this] {
-        int n = 0;
-        for (int y = 0; y < 300; ++y)
-            for (int x = 0; x < 540; ++x)
-                n += backPixel(x, y) == qRgb(0, 128, 0);
-        return n;
-    };
-    screen->drawTable();
-    EXPECT_EQ(0, demoGreenPixels());
-    g.gameMode = kModeDemo;
-    putBallAtPixel(6, 200, 150);
-    putBallAtPixel(7, 205, 150);
-    screen->drawTable();
-    EXPECT_GT(demoGreenPixels(), 1000);
-    EXPECT_EQ(restingColour(7), backPixel(200, 150));
-    EXPECT_EQ(restingColour(6), backPixel(193, 150));
+    screen->drawBallDrop(3, 6); // the bottom right pocket: table (2397, 3) is pixel (509.4, 269.4)
+    EXPECT_EQ(restingColour(3), viewPixel(509, 269));
+    EXPECT_EQ(kCloth, backPixel(509, 269));
 }
 
 TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
@@ -88,48 +63,25 @@ TEST_P(TableDrawingTest, EachPocketedBallHasItsOwnPlaceInTheTray) {
     EXPECT_EQ(restingColour(9), trayPixel(8 * 20 + 1 + 10, 11));
     for (int slot = 0; slot < 8; ++slot)
         EXPECT_EQ(kTrayGrey, trayPixel(slot * 20 + 11, 11)) << slot;
-
-    g.Balls[1].onTable = false;
-    g.Balls[9].onTable = true;
-    screen->drawTray();
-    EXPECT_EQ(restingColour(1), trayPixel(11, 11));
-    EXPECT_EQ(kTrayGrey, trayPixel(171, 11));
 }
 
-TEST_P(TableDrawingTest, ADroppingBallIsStampedAtItsPocket) {
-    screen->drawTable();
-    screen->drawBallDrop(3, 6); // the bottom right pocket: table (2397, 3) is pixel (509.4, 269.4)
-    EXPECT_EQ(restingColour(3), viewPixel(509, 269));
-    EXPECT_EQ(kCloth, backPixel(509, 269));
-}
-
-TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersAboveIt) {
+// The view shows the last frame, and the markers' outlines over it are the pixels of ellipses
+// drawn in their places, the ball in hand's red one over the ball's picture.
+TEST_P(TableDrawingTest, TheViewPaintsTheLastFrameWithTheMarkersOutlinedAboveIt) {
     putBallAtPixel(1, 200, 150);
-    screen->drawTable();
-    g.controls.target = {300, 100, true}; // the cyan circle's box is 300..319 by 100..119
-    g.controls.qBall = {190, 140, false};
-    const auto shown = [&](int x, int y) {
-        window->syncControlsFromState();
-        return window->picPool()->grab().toImage().pixel(x, y) | 0xff000000;
-    };
-    EXPECT_EQ(restingColour(1), shown(200, 150));
-    EXPECT_EQ(qRgb(0, 255, 255), shown(300, 110));
-    EXPECT_EQ(kCloth, shown(310, 110));
-    // With the ball in hand the red outline stands over the ball's picture.
-    g.controls.qBall.visible = true;
-    EXPECT_EQ(qRgb(255, 0, 0), shown(190, 150));
-}
-
-TEST_P(TableDrawingTest, AMarkersOutlineHasThePixelsOfAnEllipseDrawnInItsPlace) {
     screen->drawTable();
     g.controls.target.visible = false;
     g.controls.qBall.visible = false;
     window->syncControlsFromState();
     QImage expected = window->picPool()->grab().toImage();
+    EXPECT_EQ(restingColour(1), expected.pixel(200, 150) | 0xff000000);
     QPainter painter(&expected);
+    painter.setPen(QColor(255, 0, 0));
+    painter.drawEllipse(QRect(190, 140, 19, 19));
     painter.setPen(QColor(0, 255, 255));
     painter.drawEllipse(QRect(300, 103, 19, 19));
     painter.end();
+    g.controls.qBall = {190, 140, true};
     g.controls.target = {300.4f, 102.6f, true};
     window->syncControlsFromState();
     EXPECT_EQ(expected, window->picPool()->grab().toImage());
@@ -169,6 +121,18 @@ TEST_F(ScreenTest, AtScaleOneEachSpriteIsOneAndAndOneXorOnTheSheetsSurface) {
     ASSERT_EQ(expected.bytesPerLine(), s.backBuffer.bytesPerLine());
     EXPECT_EQ(0, std::memcmp(expected.constBits(), s.backBuffer.constBits(),
                              size_t(expected.sizeInBytes())));
+}
+
+// The next ball to hit stands in its cell at (290, 1), inside the box's green outline.
+TEST_F(ScreenTest, TheInformationBarShowsTheNextBall) {
+    for (int i = 1; i <= 9; ++i)
+        putBallAtPixel(i, 100 + 20 * i, 150);
+    g.Balls[1].onTable = false;
+    screen->drawInformation();
+    const QImage& bar = screen->surfaces().information;
+    EXPECT_EQ((std::array{qRgb(0, 255, 0), restingColour(2), qRgb(0, 255, 0)}),
+              (std::array{bar.pixel(289, 10) | 0xff000000, bar.pixel(300, 11) | 0xff000000,
+                          bar.pixel(310, 10) | 0xff000000}));
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEachScale, TableDrawingTest, ::testing::Values(1, 2),

@@ -1,5 +1,4 @@
-// Where the game finds the files it brings: beside the program, then the installed data folder,
-// and the current directory first for the pictures looked for there.
+// Where the game finds the files it brings: beside the program, then the installed data folder.
 #include "startup/program_files.h"
 #include "support/temp_home.h"
 
@@ -16,15 +15,9 @@ class ProgramFilesTest : public morvane::testing::TempHomeTest {
   protected:
     void SetUp() override {
         TempHomeTest::SetUp();
-        for (const char* folder : {"prefix/bin", "prefix/share/morvane", "elsewhere", "work"})
+        for (const char* folder : {"prefix/bin", "prefix/share/morvane", "elsewhere"})
             fs::create_directories(path(folder));
-        before_ = fs::current_path();
     }
-    void TearDown() override {
-        fs::current_path(before_);
-        TempHomeTest::TearDown();
-    }
-    fs::path before_;
 };
 
 TEST_F(ProgramFilesTest, BesideTheProgramComesFirstThenTheDataFolderOfTheInstallation) {
@@ -35,18 +28,6 @@ TEST_F(ProgramFilesTest, BesideTheProgramComesFirstThenTheDataFolderOfTheInstall
         writeFile(std::string(folder) + "/help.html", "x");
         EXPECT_EQ(fs::path(path(folder)) / "help.html", findDataFile("help.html", folders));
     }
-    EXPECT_EQ(fs::path(path("prefix/bin/none.wav")), findDataFile("none.wav", folders))
-        << "a missing file is named where it was first expected";
-}
-
-TEST_F(ProgramFilesTest, TheCurrentDirectoryIsSearchedFirstOnlyWhenAsked) {
-    const auto folders = dataFolders(path("prefix/bin"), {});
-    writeFile("prefix/bin/mv256.bmp", "beside");
-    writeFile("work/mv256.bmp", "current");
-    fs::current_path(path("work"));
-    EXPECT_EQ(fs::path(path("work/mv256.bmp")),
-              fs::canonical(findInCurrentDirectory("mv256.bmp", folders)));
-    EXPECT_EQ(fs::path(path("prefix/bin/mv256.bmp")), findDataFile("mv256.bmp", folders));
 }
 
 } // namespace

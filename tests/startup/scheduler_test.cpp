@@ -19,21 +19,6 @@ class Scheduler : public ::testing::Test {
     }
 };
 
-TEST_F(Scheduler, ATimerCountsItsIntervalFromWhenItWasSwitchedOnNotSwitchedOnAgain) {
-    advanceVirtualTime(g, 600);
-    setTimerEnabled(g, kTimTimeCounter, true); // already on: no restart
-    advanceVirtualTime(g, 1000);
-    EXPECT_EQ(g.gameSeconds, 1);
-    setTimerEnabled(g, kTimTimeCounter, false);
-    advanceVirtualTime(g, 1730);
-    setTimerEnabled(g, kTimTimeCounter, true);
-    EXPECT_EQ(nextDueTime(g), 2730);
-    advanceVirtualTime(g, 2729);
-    EXPECT_EQ(g.gameSeconds, 1);
-    advanceVirtualTime(g, 5730);
-    EXPECT_EQ(g.gameSeconds, 5);
-}
-
 TEST_F(Scheduler, ALateDriverFiresEachTimerOnceAndDoesNotMakeUpTheMissedTicks) {
     runDueTimers(g, 2000); // a whole second late: one tick, and the next a second on
     EXPECT_TRUE(g.gameSeconds == 1 && nextDueTime(g) == 3000);
@@ -48,12 +33,6 @@ TEST_F(Scheduler, ATimerNeverFiresWhileItsOwnHandlerIsRunning) {
     g.timers[kTimTimeCounter].running = false;
     runDueTimers(g, 3000);
     EXPECT_EQ(g.gameSeconds, 1);
-}
-
-TEST_F(Scheduler, AdvanceUntilStopsAtTheFirstTickThatMeetsTheCondition) {
-    EXPECT_TRUE(advanceUntil(g, 60000, [&] { return g.gameSeconds == 3; }));
-    EXPECT_EQ(g.nowMs, 3000);
-    EXPECT_FALSE(advanceUntil(g, 3500, [&] { return g.gameSeconds == 9; }));
 }
 
 // A solo game waiting for its break, with the menu over the table or not, from time 0; the

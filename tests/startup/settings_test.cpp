@@ -1,5 +1,4 @@
 #include "game/timers.h"
-#include "rules/music.h"
 #include "startup/settings.h"
 #include "support/recording_screen.h"
 #include "support/recording_sound.h"
@@ -21,9 +20,6 @@ class Settings : public morvane::testing::TempHomeTest {
         TempHomeTest::SetUp();
         g.ports.screen = &screen;
         g.ports.sound = &sound;
-        const char* files[] = {"menu.mid", "record.mid", "game1.mid", "game2.mid", "game3.mid"};
-        for (int i = 0; i < kBgmTrackCount; ++i)
-            g.bgmTracks[i].file = files[i];
     }
     void start() {
         readHiColorSetting(g);
@@ -50,61 +46,18 @@ TEST_F(Settings, StoredValuesAreReadAndWrittenBackInTheirOwnForm) {
     EXPECT_EQ(std::tie(g.hiColor, g.soundOn, g.bgmOn), std::tuple(1, 0, -1));
     EXPECT_FALSE(g.controls.soundPicOn || g.controls.mnuSoundChecked);
     EXPECT_EQ(settings(), "[morvane]\nhicolor=-1\nSOUND= 0\nBGM=-1\n");
-
-    writeFile("MORVANE.INI", "[MORVANE]\nHiColor=0\nSOUND=on\nBGM=off\n");
-    start();
-    EXPECT_EQ(std::tie(g.hiColor, g.hiColorPending, g.soundOn, g.bgmOn), std::tuple(0, 0, 0, 0));
-    EXPECT_FALSE(g.controls.colorPicOn || isTimerEnabled(g, kTimBGM));
-    EXPECT_EQ(settings(), "[MORVANE]\nHiColor= 0\nSOUND= 0\nBGM= 0\n");
 }
 
-TEST_F(Settings, SoundSwitchesFromThePictureAndTheMenu) {
-    g.soundOn = 0;
-    picSound_Click(g, 1); // the picture on show while sound is off
-    EXPECT_TRUE(g.soundOn == 1 && g.controls.soundPicOn);
+// The music picture and the sound menu switch their setting and write its key at once.
+TEST_F(Settings, TheMusicPictureAndTheSoundMenuSwitchAndWriteTheirKeys) {
+    picBGM_Click(g, 0);
+    EXPECT_FALSE(isTimerEnabled(g, kTimBGM) || g.controls.bgmPicOn || g.bgmOn);
+    picBGM_Click(g, 1);
+    EXPECT_TRUE(isTimerEnabled(g, kTimBGM) && g.controls.bgmPicOn);
     g.soundOn = 2;
     mnuSound_Click(g);
     EXPECT_FALSE(g.soundOn || g.controls.mnuSoundChecked);
-    mnuSound_Click(g);
-    EXPECT_TRUE(g.soundOn == 1 && g.controls.mnuSoundChecked);
-    EXPECT_EQ(settings(), "[MORVANE]\nSOUND= 1\n");
-}
-
-TEST_F(Settings, MusicOffClosesEveryTrackAndOnComesBackWithTheMenuTrack) {
-    setTimerInterval(g, kTimBGM, 500);
-    g.bgmScene = 2;
-    picBGM_Click(g, 0);
-    EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(0, -1, 2));
-    EXPECT_FALSE(isTimerEnabled(g, kTimBGM) || g.controls.bgmPicOn);
-    ASSERT_EQ(sound.music.size(), 5u);
-    for (int i = 0; i < kBgmTrackCount; ++i)
-        EXPECT_EQ(sound.music[size_t(i)], "close " + g.bgmTracks[i].file);
-    EXPECT_EQ(settings(), "[MORVANE]\nBGM= 0\n");
-
-    g.nowMs = 1000;
-    picBGM_Click(g, 1);
-    EXPECT_EQ(std::tie(g.bgmOn, g.bgmScene, g.bgmScenePrevious), std::tuple(-1, 0, -1));
-    EXPECT_TRUE(isTimerEnabled(g, kTimBGM) && g.controls.bgmPicOn);
-    EXPECT_EQ(g.timers[kTimBGM].dueAt, 1500);
-    EXPECT_EQ(sound.music.size(), 5u) << "switching on sends nothing";
-    EXPECT_EQ(settings(), "[MORVANE]\nBGM=-1\n");
-}
-
-TEST_F(Settings, TheColourSwitchSpeaksOnlyWhenTheWindowShowsAndTheValueChanges) {
-    g.controls.mainWindowVisible = true;
-    picColor_Click(g, 0);
-    EXPECT_EQ(settings(), "[MORVANE]\nHiColor= 0\n");
-    EXPECT_FALSE(g.controls.colorPicOn);
-    picColor_Click(g, 1);
-    EXPECT_EQ(settings(), "[MORVANE]\nHiColor=-1\n") << "two clicks leave the file as it was";
-    EXPECT_EQ(screen.messages,
-              (std::vector<std::string>{"色数を256色に変更します。次回起動から有効です。",
-                                        "色数をTrue Colorに変更します。次回起動から有効です。"}));
-    picColor_Click(g, 1); // no change
-    g.controls.mainWindowVisible = false;
-    picColor_Click(g, 0); // window hidden
-    EXPECT_EQ(screen.messages.size(), 2u);
-    EXPECT_EQ(std::tie(g.hiColorPending, g.hiColor), std::tuple(0, -1)); // this run's pictures
+    EXPECT_EQ(settings(), "[MORVANE]\nBGM=-1\nSOUND= 0\n");
 }
 
 } // namespace
