@@ -38,9 +38,19 @@ void letZephTakeTheSoloShot(GameState& g) {
         setTimerEnabled(g, kTimCom, true);
 }
 
+// Under X11 the window's frames go to the server over its socket rather than through shared
+// memory: after each shared-memory frame Qt waits on a round trip to the server, which wakes the
+// program a second time for every frame of the break swing, and a window this small costs less
+// to copy. Set by the player, the variable is left as it is.
+void sendFramesOverTheSocket() {
+    if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
+        qputenv("QT_XCB_NO_MITSHM", "1");
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
+    sendFramesOverTheSocket();
     // On a HiDPI screen the 540 by 378 window grows by the screen's own factor, fractions
     // included: its pictures come from the set drawn for that factor or the next one up, and are
     // smoothed down to a fraction (screen/pictures.h).
