@@ -42,9 +42,8 @@ TEST_F(GameOver, AMatchOfOneGameEndsAndTheNextMatchStartsWithPlayerOneToBreak) {
     g.turnCount = 1; // Bob's turn
     sinkTheNine();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob is Winner!"});
-    EXPECT_TRUE(g.players[0].hasBreak);
-    EXPECT_FALSE(g.players[1].hasBreak);
-    EXPECT_EQ(g.players[1].gamesWon, 0);
+    EXPECT_EQ(std::tie(g.players[0].hasBreak, g.players[1].hasBreak, g.players[1].gamesWon),
+              std::tuple(true, false, 0));
     EXPECT_EQ(g.controls.shotCaption, "Ann's Shot");
     EXPECT_EQ(g.zephLevel, 1) << "two people leave zeph's level alone";
 }
@@ -54,19 +53,9 @@ TEST_F(GameOver, AGameWonByZephMidMatchLetsZephBreakTheNext) {
     g.turnCount = 1; // zeph's turn
     sinkTheNine();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"zeph is Winner!"});
-    EXPECT_EQ(g.players[1].gamesWon, 1);
-    EXPECT_TRUE(g.players[1].hasBreak);
+    EXPECT_EQ(std::tie(g.players[1].gamesWon, g.players[1].hasBreak), std::tuple(1, true));
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
     EXPECT_TRUE(g.controls.shotEnabled) << "the controls stay on through zeph's break";
-}
-
-TEST_F(GameOver, TwoMatchesWonInARowAgainstZephRaiseItsLevel) {
-    matchAgainst("zeph", true, 1);
-    sinkTheNine();
-    EXPECT_EQ(g.zephLevel, 1);
-    EXPECT_TRUE(g.controls.scoreVisible) << "a won match enters the table";
-    sinkTheNine();
-    EXPECT_EQ(g.zephLevel, 2);
 }
 
 TEST_F(GameOver, TheDemoReturnsToTheMenuWithNoMessage) {
@@ -74,25 +63,19 @@ TEST_F(GameOver, TheDemoReturnsToTheMenuWithNoMessage) {
     g.gameMode = kModeDemo;
     sinkTheNine();
     EXPECT_TRUE(screen.messages.empty() && screen.forms.empty());
-    EXPECT_EQ(g.gameMode, kModeMenu);
-    EXPECT_TRUE(g.controls.menuVisible);
+    EXPECT_EQ(std::tie(g.gameMode, g.controls.menuVisible), std::tuple(kModeMenu, true));
     EXPECT_FALSE(isTimerEnabled(g, kTimCom));
 }
 
 // The test-only table that brings a solo game to its last shot.
 TEST_F(GameOver, TheNearlyClearedTableIsMadeOnceInASoloGameAtRestAndTheGamesAimSinksTheNine) {
     setTable(g, {{0, 600, 600}, {3, 1500, 300}, {7, 1900, 900}, {9, 1800, 600}});
-    // Not before the break, while balls roll, while a form of the tick is up, nor in a match.
-    const std::vector<void (*)(GameState&)> refusals = {
-        [](GameState& h) { h.breakPending = true; },
-        [](GameState& h) { setTimerEnabled(h, kTimer1, true); },
-        [](GameState& h) { h.timers[kTimer1].running = true; },
-        [](GameState& h) { h.gameMode = kModeVersus; }};
-    for (const auto refuse : refusals) {
-        GameState h = g;
-        refuse(h);
-        EXPECT_FALSE(wantsNearlyClearedTable(h));
-    }
+    // Not while balls roll, nor in a match.
+    GameState rolling = g;
+    setTimerEnabled(rolling, kTimer1, true);
+    GameState match = g;
+    match.gameMode = kModeVersus;
+    EXPECT_FALSE(wantsNearlyClearedTable(rolling) || wantsNearlyClearedTable(match));
     ASSERT_TRUE(wantsNearlyClearedTable(g));
 
     g.ballInHand = true;
