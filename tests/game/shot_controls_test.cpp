@@ -1,4 +1,4 @@
-// The controls of a shot: the power bar, the hit point, the break swing and the shot button.
+// The controls of a shot: the shot button and the break swing.
 #include "game/racking.h"
 #include "game/shot_button.h"
 #include "game/shot_input.h"
@@ -38,37 +38,6 @@ TEST(ShotButton, ArmsTheShotScalesTheHitPointAndHandsTheTableToTheTick) {
     EXPECT_FALSE(g.controls.shotEnabled || g.controls.powerEnabled);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1) && isTimerEnabled(g, kTimTimeCounter));
     EXPECT_FALSE(isTimerEnabled(g, kTimer2)) << "the break swing stops";
-}
-
-TEST(PowerBar, CaptionChangesOnlyWhenTheValueDoesAndThePowerHasAFloor) {
-    GameState g;
-    setPower(g, 99);
-    setPower(g, 100);
-    EXPECT_EQ(g.controls.powerCaption, "POWER  100%");
-    setPower(g, 20);
-    EXPECT_EQ(g.controls.power, 35);
-}
-
-TEST(HitPoint, ClickPlacesTheDotAndSetsSpinByTheSquareOfTheOffsetWithADeadCentre) {
-    struct Case {
-        float x, y; // the click on the 45-pixel ball
-        float side; // the spin it sets
-        float follow;
-        float left; // the dot's corner
-    };
-    const Case cases[] = {
-        {45, 22.5f, 1, 0, 40},         // the right rim
-        {22.5f, 32.5f, 0, -0.25f, 20}, // half way down: a quarter of the draw
-        {23.5f, 23.5f, 0, 0, 20},      // 1.41 pixels from the middle
-    };
-    for (const Case& c : cases) {
-        GameState g;
-        picSetPoint_MouseDown(g, 40, 10);
-        picSetPoint_MouseDown(g, c.x, c.y);
-        EXPECT_NEAR(g.Balls[0].spinSide, c.side, 1e-6) << c.x << ", " << c.y;
-        EXPECT_NEAR(g.Balls[0].spinFollow, c.follow, 1e-6) << c.x << ", " << c.y;
-        EXPECT_NEAR(g.controls.pointLeft, c.left, 1e-5) << c.x << ", " << c.y;
-    }
 }
 
 TEST(BreakSwing, AimsOnACircleAroundTheFootSpotWithTheMarkerTenUnitsNearer) {

@@ -21,25 +21,17 @@ class Modes : public RulesTest {
     }
 };
 
-TEST_F(Modes, ThePlayButtonsHideTheMenuAndSetTheModeAndItsMusic) {
-    picSoloPlay_Click(g, 0);
-    EXPECT_EQ(std::tie(g.gameMode, g.controls.menuVisible, g.bgmScene),
-              std::tuple(kModeSolo, false, 2));
-
-    backToMenu(g);
+// Solo Play and the menu label are clicked through the window in the shell's tests.
+TEST_F(Modes, PlayAgainstZephIsAMatchToThreeAndTheChangeOfModeTurnsItIntoASoloGame) {
     g.matchTarget = 7;
     picVSCPU_Click(g, 0);
     EXPECT_EQ(std::tie(g.gameMode, g.matchTarget, g.players[1].name, g.bgmScene),
               std::tuple(kModeVersus, 3, "zeph", 3));
-
-    mnuChangeMode_Click(g); // and back to a solo game
+    mnuChangeMode_Click(g);
     EXPECT_EQ(g.gameMode, kModeSolo);
     EXPECT_TRUE(g.controls.mnuStartEnabled);
 
-    lblMenu_Click(g, 0); // the menu label leaves the game for the menu and its music
-    EXPECT_TRUE(g.controls.menuVisible && isTimerEnabled(g, kTimDemo));
-    EXPECT_EQ(g.bgmScene, 0);
-
+    backToMenu(g);
     screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; }; // Cancel on the set-up form
     picVSPlay_Click(g, 0);
     EXPECT_TRUE(g.controls.menuVisible);
