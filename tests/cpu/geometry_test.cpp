@@ -1,5 +1,3 @@
-#include "cpu/bank_geometry.h"
-#include "cpu/combinations.h"
 #include "cpu/road_tests.h"
 #include "cpu/shot_geometry.h"
 #include "support/table_setup.h"
@@ -74,29 +72,4 @@ TEST(RoadTests, NameTheLowestBlockerAndCallARoadOfNoLengthBlocked) {
     EXPECT_FALSE(isSpotBlockedExcept(g, 1000, 900, 0)); // exactly 100
     EXPECT_TRUE(isSpotBlockedExcept(g, 1000.1f, 900, 0));
     EXPECT_FALSE(isSpotBlockedExcept(g, 1000.1f, 900, 4));
-}
-
-TEST(BankPoint, FollowsTheMirrorAndReportsBlockedLegs) {
-    GameState g = tableWithCueAt(600, 600);
-    const PointType from{600, 600}; // 550 from the top and bottom cushions
-    expectPoint(findBankPoint(g, from, {1800, 300}, 102, 0).point, 2350, 371.73913f);
-
-    const PointType to{1800, 600}; // by way of (1200, 1150)
-    putBall(g.Balls, 1, 900, 875); // on the first leg: even the named ball counts there
-    EXPECT_TRUE(findBankPoint(g, from, to, 103, 1).blocked);
-    putBall(g.Balls, 1, 1500, 875); // on the second leg: the named ball is left out
-    EXPECT_FALSE(findBankPoint(g, from, to, 103, 1).blocked);
-    EXPECT_TRUE(findBankPoint(g, from, to, 103, 2).blocked);
-}
-
-TEST(Combination, TheLowestNumberedBallBetweenPocketAndTargetBecomesTheSecondBall) {
-    GameState g = tableWithCueAt(550, 950);
-    putBall(g.Balls, 1, 1450, 500);
-    EXPECT_FALSE(isCombinationPocket(g, g.pocketTable[6]));
-    putBall(g.Balls, 4, 1900, 300); // 22.4 off the line from pocket 6 to the target
-    EXPECT_TRUE(isCombinationPocket(g, g.pocketTable[6]));
-    EXPECT_FALSE(isCombinationPocket(g, g.pocketTable[3]));
-    putBall(g.Balls, 2, 2200, 130); // farther from the target than ball 4, but the lower number
-    const PointType viaTwo = ghostPoint({1450, 500}, ghostPoint({2200, 130}, {2350, 50}));
-    expectPoint(ghostForPocket(g, 6), viaTwo.x, viaTwo.y, 0);
 }

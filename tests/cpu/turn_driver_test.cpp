@@ -49,14 +49,6 @@ TEST_F(TurnDriver, RunsTheTurnTickByTickAndShootsOnTheTwentySecond) {
     EXPECT_TRUE(isTimerEnabled(g, kTimer1) && !isTimerEnabled(g, kTimCom));
 }
 
-TEST_F(TurnDriver, OnTheBreakSaysItsFirstShotAndDoesNotThink) {
-    g.breakPending = true;
-    g.aimY = 612;
-    tick(15);
-    EXPECT_EQ(std::tie(random.draws, g.aimY, g.controls.zephsMessage),
-              std::tuple(0u, 612, "My first shot."));
-}
-
 TEST_F(TurnDriver, BallInHandReplacesTheFirstRemarkAndTheDemoKeepsTheTableLive) {
     g.ballInHand = true;
     g.gameMode = kModeDemo;

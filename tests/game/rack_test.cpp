@@ -1,10 +1,7 @@
 #include "game/racking.h"
 #include "game/table_queries.h"
-#include "table/geometry.h"
 
 #include <gtest/gtest.h>
-
-#include <cmath>
 
 using namespace morvane;
 
@@ -27,17 +24,6 @@ TEST(Rack, StandsEveryBallAtItsStartPointToTheBitWithNothingLeftFromTheLastGame)
     EXPECT_EQ(g.aimX, 1790);
     EXPECT_EQ(getPocketedString(g), "000000000");
     EXPECT_EQ(getLowestBall(g), 1);
-}
-
-TEST(Helpers, GetAngleFollowsTheQuadrantsWithTheGamesPiAndNamesTheCushionAhead) {
-    EXPECT_EQ(getAngle(0, 0, -5, 0), float(3.1415926));
-    EXPECT_FLOAT_EQ(getAngle(0, 0, -1, 1), float(std::atan(-1.0) + 3.1415926));
-    EXPECT_FLOAT_EQ(getAngle(0, 0, -1, -1), float(std::atan(1.0) - 3.1415926));
-    const PointType centre{1200, 600};
-    EXPECT_EQ(getCushionFacing(centre, {1200, 900}), kCushionTop);
-    EXPECT_EQ(getCushionFacing(centre, {100, 650}), kCushionLeft);
-    EXPECT_EQ(getCushionFacing(centre, {2000, 550}), kCushionRight);
-    EXPECT_EQ(getCushionFacing(centre, centre), kCushionRight); // no direction at all
 }
 
 TEST(Helpers, IsSpotBlockedOnlyStrictlyInsideADiameterOfABallInPlay) {

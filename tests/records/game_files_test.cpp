@@ -54,15 +54,6 @@ TEST_F(GameFiles, ALargeFileIsReadUpToTheLimitAndCutAfterItsLastWholeLine) {
               std::tuple(FileRead::Problem::TooLarge, "20 bytes", "[S]\nkey=1\n"));
 }
 
-TEST_F(GameFiles, ASaveReplacesTheFileALinkPointsTo) {
-    std::filesystem::create_directory(path("kept"));
-    writeFile("kept/MVSCORE.INI", "[ZEPH]\r\nLV= 1\r\n");
-    std::filesystem::create_symlink(path("kept/MVSCORE.INI"), file());
-    EXPECT_TRUE(WritePrivateProfileStringA("ZEPH", "LV", " 2", file()));
-    EXPECT_TRUE(std::filesystem::is_symlink(file()));
-    EXPECT_EQ(readFile("kept/MVSCORE.INI"), "[ZEPH]\r\nLV= 2\r\n");
-}
-
 TEST_F(GameFiles, TheirFolderIsMorvaneHomeElseUnderXdgElseUnderHomeAndIsMade) {
     ::setenv("MORVANE_HOME", (home_ + "own").c_str(), 1);
     EXPECT_EQ(getWindowsPath(), home_ + "own/");

@@ -1,7 +1,6 @@
 // The INI file held in memory: what a save keeps of the file as it stood, and what a read gives,
 // its bytes taken as UTF-8 or Shift-JIS.
 #include "records/ini_document.h"
-#include "records/text_bytes.h"
 
 #include <gtest/gtest.h>
 
@@ -26,21 +25,6 @@ TEST(IniDocument, EachFileKeepsItsOwnLineEndsAndNewLinesTakeThoseOfItsFirstLine)
     EXPECT_EQ(IniDocument(untouched).text(), untouched) << "a file read and written back";
 }
 
-TEST(IniDocument, TheFirstOfEqualSectionsAndKeysCountsAndKeysOutsideASectionDont) {
-    const IniDocument document("\xEF\xBB\xBFtop=0\n  [ S ]  \n; key=9\n  Key =\t 1 \t\nkey=2\n"
-                               "[s]\nother=3\n[T]\nx = \n");
-    EXPECT_EQ(document.value("s", "KEY"), "1");
-    EXPECT_EQ(document.value("S", "other"), std::nullopt) << "in the second [s]";
-    EXPECT_EQ(document.value("", "top"), std::nullopt);
-    EXPECT_EQ(document.value("T", "x"), "");
-
-    IniDocument changed = document;
-    changed.set("s", "other", "4");
-    changed.set("T", "note", "two\nlines");
-    EXPECT_EQ(changed.text(), "\xEF\xBB\xBFtop=0\n  [ S ]  \n; key=9\n  Key =\t 1 \t\nkey=2\n"
-                              "other=4\n[s]\nother=3\n[T]\nx = \nnote=two lines\n");
-}
-
 TEST(IniDocument, NumbersAreReadLenientlyAndTextsAsUtf8OfAtMost199Characters) {
     std::string balls;
     for (int i = 0; i < 300; ++i)
@@ -59,19 +43,6 @@ TEST(IniDocument, NumbersAreReadLenientlyAndTextsAsUtf8OfAtMost199Characters) {
     EXPECT_EQ(document.readString("S", "sjis", ""), "玉突き") << "read as Shift-JIS";
     EXPECT_EQ(document.readString("S", "bad", ""), "A\uFFFD\uFFFDB") << "neither: replaced";
     EXPECT_EQ(document.readString("S", "long", ""), balls.substr(0, 199 * 3)) << "not bytes";
-}
-
-TEST(TextBytes, ShiftJisIsDecodedAndWhatIsNeitherIsReplacedByteByByte) {
-    EXPECT_EQ(utf8FromAnyBytes("\x83\x5B\x83\x74 \xB1\xDD"), "ゼフ ｱﾝ");
-    EXPECT_EQ(utf8FromAnyBytes("ok\xE3\x81 \xFF"), "ok\uFFFD\uFFFD \uFFFD")
-        << "a cut sequence: each byte that isn't part of a whole one";
-}
-
-TEST(TextBytes, OnlyWellFormedUtf8CountsAsUtf8) {
-    EXPECT_TRUE(isUtf8("a\x7F\xC2\x80\xE0\xA0\x80\xED\x9F\xBF\xF4\x8F\xBF\xBF"));
-    for (const char* bad : {"\x80", "\xC0\xAF", "\xC1\xBF", "\xE0\x80\xAF", "\xED\xA0\x80",
-                            "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE3\x81"})
-        EXPECT_FALSE(isUtf8(bad)) << bad;
 }
 
 } // namespace

@@ -1,5 +1,4 @@
-// The lines of the record screen: places, counts in the singular and plural, levels, times and
-// the ball marks.
+// The lines of the record screen: places, counts in the singular and plural, levels and times.
 #include "records/score_text.h"
 
 #include <gtest/gtest.h>
@@ -35,15 +34,6 @@ TEST(ScoreText, RowsReadInTheirColumnsAndExactlyOneTakesTheSingular) {
     EXPECT_EQ(texts(vsCpuScoreRow(vs, 1))[2] + texts(vsCpuScoreRow(vs, 1))[3],
               "150:Master!230:10 Wins");
     EXPECT_EQ(minutesAndSeconds(75) + minutesAndSeconds(6000), "01:15100:00");
-}
-
-TEST(ScoreText, MarksFollowTheBallNumbersOfThePlacesNotZeroAndOnlyTheNewRowIsMarked) {
-    EXPECT_EQ(ballMarks("010000001"), (std::vector<int>{2, 9}));
-    SoloRecordType solo;
-    solo.place = 11;
-    EXPECT_TRUE(soloScoreRow(solo, 10).isNew);
-    solo.place = 10;
-    EXPECT_FALSE(soloScoreRow(solo, 10).isNew);
 }
 
 } // namespace

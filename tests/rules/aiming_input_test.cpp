@@ -41,10 +41,7 @@ TEST_F(Aiming, TheCueBallInHandIsTakenOnlyStrictlyInsideItsRadius) {
     EXPECT_FLOAT_EQ(g.Balls[0].x, 645);
 }
 
-TEST_F(Aiming, NothingMovesOnTheBreakFarFromTheCueBallOrWithNoButton) {
-    picPool_MouseMove(g, 0, 300, 100);
-    EXPECT_EQ(g.aimX, 0);
-
+TEST_F(Aiming, NothingMovesOnTheBreak) {
     g.breakPending = true;
     picPool_MouseDown(g, kLeft, 400, 100);
     picPool_MouseMove(g, kLeft, 420, 120);

@@ -36,17 +36,6 @@ TEST_F(Back, TakesTheShotBackAndCountsAShotATurnAndAFoulEachTime) {
     EXPECT_EQ(g.Balls[0].x, before[0].x);
 }
 
-TEST_F(Back, AfterAFoulRestoresBallInHandAsItWasAndCountsTheFoulTwice) {
-    g.shotCount = 1;
-    g.ballInHand = true;
-    missEverything();
-    ASSERT_EQ(g.foulCount, 1);
-    g.ballInHand = false;
-    undoShot(g);
-    EXPECT_EQ(std::tie(g.ballInHand, g.foulCount), std::tuple(true, 2));
-    EXPECT_EQ(g.Balls[0].y, 600);
-}
-
 TEST_F(Back, AfterTheBreakIsAFreshGame) {
     setTable(g, {{0, 600, 600}, {1, 2000, 300}, {9, 1500, 900}});
     g.shotCount = g.turnCount = g.foulCount = 1;

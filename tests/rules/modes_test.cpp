@@ -49,13 +49,7 @@ TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
 }
 
-TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRollButNotASoloGame) {
-    picSoloPlay_Click(g, 0);
-    setTimerEnabled(g, kTimer1, true);
-    picPool_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
-
+TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRoll) {
     startDemo(g);
     setTimerEnabled(g, kTimer1, true);
     picPool_Click(g, 0);
@@ -81,26 +75,19 @@ TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnew) {
     EXPECT_TRUE(isTimerEnabled(g, kTimCom)) << "zeph breaks the new rack";
 }
 
-TEST(MatchSetupForm, OpensWithTrimmedNamesTheLengthWithNoBlankAndOnlyZephLocked) {
+TEST(MatchSetupForm, OnlyZephsNameIsLockedAndCancelLeavesNoMatchAgainstZeph) {
     GameState g;
-    nameSides(g, "  Ann ", "zeph");
-    g.matchTarget = 1;
-    const MatchSetupView view = loadMatchSetup(g);
-    EXPECT_EQ(std::tie(view.firstName, view.secondName, view.secondNameEditable, view.matchLength),
-              std::tuple("Ann", "zeph", false, 1));
+    nameSides(g, "Ann", "zeph");
+    EXPECT_FALSE(loadMatchSetup(g).secondNameEditable);
     g.players[1].name = "Zeph";
     EXPECT_TRUE(loadMatchSetup(g).secondNameEditable);
-}
 
-TEST(MatchSetupForm, CancelLeavesNoMatchAgainstZephAndHeadsForTheMenu) {
-    GameState g;
     g.gameMode = kModeVersus;
     g.versusCpu = true;
     g.controls.mnuStartEnabled = false;
     changeVsModeCancel(g);
-    EXPECT_FALSE(g.versusCpu);
-    EXPECT_EQ(g.gameMode, kModeMenu);
-    EXPECT_TRUE(g.controls.mnuStartEnabled);
+    EXPECT_EQ(std::tie(g.versusCpu, g.gameMode, g.controls.mnuStartEnabled),
+              std::tuple(false, kModeMenu, true));
 }
 
 } // namespace

@@ -63,7 +63,7 @@ GameState respotted(const std::vector<BallPlace>& standing, const std::vector<in
     return g;
 }
 
-TEST(Respot, ObjectBallsComeBackInTheOrderOfFallingAlongTheFootLineThenTowardTheHead) {
+TEST(Respot, ObjectBallsComeBackAlongTheFootLineAndTheCueBallAboutTheHeadSpot) {
     const GameState free = respotted({{0, 600, 600}}, {3, 1, 2});
     EXPECT_EQ(std::tie(free.Balls[3].x, free.Balls[1].x, free.Balls[2].x),
               std::tuple(1800, 1900, 2000));
@@ -74,13 +74,10 @@ TEST(Respot, ObjectBallsComeBackInTheOrderOfFallingAlongTheFootLineThenTowardThe
     EXPECT_EQ(respotted(line, {9}).Balls[9].x, 2300) << "the line's last place";
     line.push_back({6, 2300, 600});
     EXPECT_EQ(respotted(line, {9}).Balls[9].x, 1700) << "the line full";
-}
 
-TEST(Respot, TheCueBallGoesToTheHeadSpotElseTheNearestFreePlaceAboveThenBelowIt) {
-    const GameState free = respotted({{5, 1200, 900}}, {0});
-    EXPECT_EQ(std::make_pair(free.Balls[0].x, free.Balls[0].y), std::make_pair(600.0f, 600.0f));
-    std::vector<BallPlace> taken = {{5, 600, 600}};
-    for (const float y : {700.0f, 500.0f, 800.0f}) {
+    // The cue ball goes to the head spot, else the nearest free place above, then below it.
+    std::vector<BallPlace> taken;
+    for (const float y : {600.0f, 700.0f, 500.0f, 800.0f}) {
         EXPECT_EQ(respotted(taken, {0}).Balls[0].y, y);
         taken.push_back({int(taken.size()) + 5, 600, y});
     }
