@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -27,22 +26,6 @@ class AtomicFile : public morvane::testing::TempHomeTest {
     std::string file() const { return path("MVSCORE.INI"); }
     void removeLeftovers() const { removeUnfinishedSaves(home_, {"MVSCORE.INI", "MORVANE.INI"}); }
 };
-
-TEST_F(AtomicFile, AStepThatFailsLeavesTheOldFileWholeAndSaysSoOnceUnlessTheNewIsInPlace) {
-    for (SaveStep failing : steps) {
-        writeFile("MVSCORE.INI", oldText);
-        setSaveStepHook([&](SaveStep step) { return step == failing ? ENOSPC : 0; });
-        ::testing::internal::CaptureStderr();
-        const bool written = writeFileAtomically(file(), newText);
-        const std::string said = ::testing::internal::GetCapturedStderr();
-        setSaveStepHook(nullptr);
-        const bool inPlace = failing == SaveStep::FlushFolder;
-        EXPECT_EQ(written, inPlace) << int(failing);
-        EXPECT_EQ(readFile("MVSCORE.INI"), inPlace ? newText : oldText) << int(failing);
-        EXPECT_EQ(folderEntries(), std::vector<std::string>{"MVSCORE.INI"}) << "no temporary";
-        EXPECT_EQ(std::ranges::count(said, '\n'), inPlace ? 0 : 1) << said;
-    }
-}
 
 TEST_F(AtomicFile, AKillAtAnyStepLeavesTheOldFileOrTheNewWholeAndTheNextStartClearsUp) {
     for (SaveStep dying : steps) {

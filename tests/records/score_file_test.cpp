@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <sstream>
 
@@ -105,6 +104,7 @@ TEST_F(ScoreFile, EachSaveWritesTheFileOnceAndIsCountedWithItsOutcome) {
     setSaveStepHook(nullptr);
     EXPECT_EQ(writes, 3) << "one write a save, not one a key";
     EXPECT_EQ(readFile("MVSCORE.INI"), text);
+    EXPECT_EQ(folderEntries(), std::vector<std::string>{"MVSCORE.INI"}) << "no temporary left";
     EXPECT_EQ(std::tie(g.scoreFileSaves, g.failedScoreFileSaves), std::tuple(3, 1));
 }
 

@@ -28,17 +28,16 @@ TEST_F(Modes, PlayAgainstZephIsAMatchToThreeAndTheChangeOfModeTurnsItIntoASoloGa
     EXPECT_EQ(std::tie(g.gameMode, g.matchTarget, g.players[1].name, g.bgmScene),
               std::tuple(kModeVersus, 3, "zeph", 3));
     mnuChangeMode_Click(g);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(g.controls.mnuStartEnabled);
+    EXPECT_EQ(std::tie(g.gameMode, g.controls.mnuStartEnabled), std::tuple(kModeSolo, true));
 
     backToMenu(g);
     screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; }; // Cancel on the set-up form
     picVSPlay_Click(g, 0);
-    EXPECT_TRUE(g.controls.menuVisible);
-    EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
+    EXPECT_EQ(std::tie(g.controls.menuVisible, g.bgmScene), std::tuple(true, 4))
+        << "the scene is set whatever the form said";
 }
 
-TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
+TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndAClickOnTheTableEndsIt) {
     mnuStart_click(g); // Start from the menu keeps the menu mode, so the count goes on
     EXPECT_FALSE(g.controls.menuVisible);
     for (int second = 1; second <= 30; ++second)
@@ -47,10 +46,8 @@ TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecond) {
     timDemo_Timer(g);
     EXPECT_EQ(g.gameMode, kModeDemo);
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
-}
 
-TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRoll) {
-    startDemo(g);
+    // A click on the table ends it, even while balls roll.
     setTimerEnabled(g, kTimer1, true);
     picPool_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeMenu);
@@ -70,8 +67,7 @@ TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnew) {
         missEverything();
     EXPECT_FALSE(g.breakPending);
     missEverything();
-    EXPECT_TRUE(g.breakPending) << "racked anew";
-    EXPECT_EQ(g.shotCount, 0);
+    EXPECT_EQ(std::tie(g.breakPending, g.shotCount), std::tuple(true, 0)) << "racked anew";
     EXPECT_TRUE(isTimerEnabled(g, kTimCom)) << "zeph breaks the new rack";
 }
 

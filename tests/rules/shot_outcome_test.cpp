@@ -13,24 +13,19 @@ class ShotOutcome_ : public RulesTest {};
 TEST_F(ShotOutcome_, APotOnALegalShotKeepsTheTurnAndAShotThatPotsNothingEndsIt) {
     setTable(g, {{0, 1800, 600}, {1, 2200, 1000}, {9, 1000, 300}});
     shootToRest(2200, 1000, 35);
-    EXPECT_FALSE(g.Balls[1].onTable);
-    EXPECT_EQ(g.turnCount, 0);
+    EXPECT_EQ(std::tie(g.Balls[1].onTable, g.turnCount, g.controls.mnuRetryEnabled),
+              std::tuple(false, 0, true));
     EXPECT_TRUE(screen.messages.empty());
-    EXPECT_TRUE(g.controls.mnuRetryEnabled);
 
     setTable(g, {{0, 600, 600}, {1, 1200, 600}, {9, 1000, 1000}});
     shootToRest(1200, 600, 35);
-    EXPECT_EQ(g.turnCount, 1);
-    EXPECT_EQ(g.foulCount, 0);
-    EXPECT_FALSE(g.ballInHand);
+    EXPECT_EQ(std::tie(g.turnCount, g.foulCount, g.ballInHand), std::tuple(1, 0, false));
 }
 
 TEST_F(ShotOutcome_, TouchingNothingIsAMissWithBallInHandWhereTheCueBallStopped) {
     missEverything();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"You missed !"});
-    EXPECT_EQ(g.foulCount, 1);
-    EXPECT_TRUE(g.ballInHand);
-    EXPECT_EQ(g.Balls[0].x, 600);
+    EXPECT_EQ(std::tie(g.foulCount, g.ballInHand, g.Balls[0].x), std::tuple(1, true, 600));
     EXPECT_NE(g.Balls[0].y, 600);
 }
 
@@ -46,8 +41,8 @@ TEST_F(ShotOutcome_, AFoulInAMatchNamesTheShooterAndBackIsNotOffered) {
     g.turnCount = 1;
     missEverything();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob missed!"});
-    EXPECT_EQ(g.controls.shotCaption, "Your Shot");
-    EXPECT_FALSE(g.controls.mnuRetryEnabled);
+    EXPECT_EQ(std::tie(g.controls.shotCaption, g.controls.mnuRetryEnabled),
+              std::tuple("Your Shot", false));
 }
 
 // Puts back the balls that fell, in this order, on a table holding the others; gives the table.
