@@ -29,7 +29,7 @@ struct TurnDriver : ::testing::Test {
 
 } // namespace
 
-TEST_F(TurnDriver, RunsTheTurnTickByTickAndShootsOnTheTwentySecond) {
+TEST_F(TurnDriver, RunsTheTurnTickByTickThinkingOnTheFifthAndShootingOnTheTwentieth) {
     tick(1);
     EXPECT_EQ(g.controls.zephsMessage, "Weel....");
     EXPECT_FALSE(g.controls.shotEnabled || g.controls.poolEnabled);
@@ -38,11 +38,7 @@ TEST_F(TurnDriver, RunsTheTurnTickByTickAndShootsOnTheTwentySecond) {
     tick(1); // tick 5 thinks
     EXPECT_EQ(random.draws, 1u);
     EXPECT_EQ(g.controls.zephsMessage, "Simple is best.");
-    tick(9); // 6 to 14: the remark stays
-    EXPECT_TRUE(g.controls.zephsMessageVisible);
-    tick(1);
-    EXPECT_FALSE(g.controls.zephsMessageVisible);
-    tick(5);
+    tick(15);
     EXPECT_EQ(g.shotCount, 0);
     tick(1);
     EXPECT_EQ(g.shotCount, 1);

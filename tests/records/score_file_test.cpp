@@ -16,9 +16,6 @@ using ScoreFile = morvane::testing::TempHomeTest;
 
 const std::string kZephName = "zeph" + std::string(16, ' ');
 
-auto soloFields(const SoloRecordType& s) {
-    return std::tie(s.Name, s.Shots, s.Turn, s.Time, s.Balls, s.numOfBalls, s.Date);
-}
 auto vsFields(const VsCpuRecordType& v) {
     return std::tie(v.Name, v.YouWon, v.CPUWon, v.winRate, v.Date, v.Time, v.LevelOfZeph);
 }
@@ -65,9 +62,7 @@ TEST_F(ScoreFile, EachTableIsSavedInItsExactFormAndReadBackAndEachSaveRewritesOn
     EXPECT_EQ(after, all);
 
     GameState back;
-    loadSoloRecord(back);
     loadVsCpuRecord(back);
-    EXPECT_EQ(soloFields(back.soloRecords[1]), soloFields(g.soloRecords[1]));
     EXPECT_EQ(vsFields(back.vsCpuRecords[1]), vsFields(g.vsCpuRecords[1]));
 }
 
