@@ -1,4 +1,5 @@
-// The frames of a shot: the break's run to the rack, and what each contact shows and sounds.
+// The frames of a shot: the break's run to the rack, and what the pockets and contacts show and
+// sound.
 #include "game/break_run.h"
 #include "game/contact_effects.h"
 #include "game/racking.h"
@@ -74,15 +75,4 @@ TEST_F(ShotFrame, BallContactNotesTheFirstHitSoundsTheRelativeSpeedAndDrawsBoth)
     EXPECT_EQ(sound.played, (std::vector<std::pair<std::string, int>>{{"vmid.wav", 1}})); // 0.536
     EXPECT_EQ(screen.ballsDrawn, (std::vector<int>{0, 4}));
     EXPECT_EQ(screen.yields, 2); // before each search: the contact, then the rest of the frame
-}
-
-TEST_F(ShotFrame, CushionDrawsTheBallAndKnocksWithItsSpeedAfterTheBounce) {
-    // It comes in too slow to be heard (below 56), but the side spin's push along the cushion
-    // sends it off fast enough.
-    putBall(g.Balls, 3, 2349.5f, 600, 50);
-    g.Balls[3].spinSide = 100;
-    playFrame(g);
-    EXPECT_EQ(screen.ballsDrawn, (std::vector<int>{3}));
-    EXPECT_EQ(sound.played, (std::vector<std::pair<std::string, int>>{{"meetwall.wav", 1}}));
-    EXPECT_TRUE(g.firstHitPending); // a cushion is no first hit
 }
