@@ -66,9 +66,4 @@ TEST(RoadTests, NameTheLowestBlockerAndCallARoadOfNoLengthBlocked) {
     EXPECT_EQ(findBlockingBall(g, from, to, 0), 3);
     EXPECT_EQ(findBlockingBall(g, from, to, 3), 5);
     EXPECT_TRUE(isPathBlocked(g, {90, 90}, {90, 90}));
-
-    putBall(g.Balls, 4, 1100, 900);
-    EXPECT_FALSE(isSpotBlockedExcept(g, 1000, 900, 0)); // exactly 100
-    EXPECT_TRUE(isSpotBlockedExcept(g, 1000.1f, 900, 0));
-    EXPECT_FALSE(isSpotBlockedExcept(g, 1000.1f, 900, 4));
 }

@@ -53,8 +53,6 @@ GameState respotted(const std::vector<BallPlace>& standing, const std::vector<in
         g.pocketedThisShot[k] = fallen[k];
     g.pocketedCount = int16_t(fallen.size());
     respotBalls(g);
-    for (int16_t n : fallen)
-        EXPECT_TRUE(g.Balls[n].onTable);
     return g;
 }
 
@@ -80,26 +78,23 @@ TEST(Respot, ObjectBallsComeBackAlongTheFootLineAndTheCueBallAboutTheHeadSpot) {
 
 // The cue ball in a pocket is judged first, then the first ball hit, then the nine.
 TEST(Judging, CueBallInAPocketThenAMissThenTheNine) {
-    struct Case {
-        bool cueOn;
-        bool nineOn;
-        int16_t firstHit;
-        ShotOutcome outcome;
-    };
+    // Whether the cue ball and the nine still stand, the first ball hit (the target is 1), and
+    // the outcome.
+    using Case = std::tuple<bool, bool, int16_t, ShotOutcome>;
     const Case cases[] = {
         {false, false, 0, ShotOutcome::CueBallFoul},
         {true, false, 0, ShotOutcome::MissFoul},
         {true, false, 1, ShotOutcome::GameOver},
         {true, true, 1, ShotOutcome::Legal},
     };
-    for (const Case& c : cases) {
+    for (const auto& [cueOn, nineOn, firstHit, outcome] : cases) {
         GameState g;
         setTable(g, {{1, 900, 900}});
-        g.Balls[0].onTable = c.cueOn;
-        g.Balls[9].onTable = c.nineOn;
-        g.firstHitBall = c.firstHit;
+        g.Balls[0].onTable = cueOn;
+        g.Balls[9].onTable = nineOn;
+        g.firstHitBall = firstHit;
         g.targetBall = 1;
-        EXPECT_EQ(judgeShot(g), c.outcome) << c.cueOn << c.nineOn << c.firstHit;
+        EXPECT_EQ(judgeShot(g), outcome) << cueOn << nineOn << firstHit;
     }
 }
 
