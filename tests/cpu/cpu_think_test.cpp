@@ -46,14 +46,6 @@ TEST(CpuThink, TheMissChanceMustExceedTheDrawAndDoublesOnTheNine) {
     EXPECT_EQ(thinkWith(nine, 2, {0.999999, 0.5, 0.5}), 3u); // 1.4: always
 }
 
-TEST(CpuThink, SetsThePowerFromTheRunsAtLevelThreeAndUp) {
-    // Straight up into pocket 2: 500 for the cue ball and 250 for the ball, 46.9 -> 46.
-    GameState g = tableWithCueAt(1200, 300);
-    putBall(g.Balls, 1, 1200, 900);
-    thinkWith(g, 3, {0.99});
-    EXPECT_EQ(g.controls.power, 46);
-}
-
 TEST(CpuThink, WithNothingFoundSaysSoAndShootsHardAtTheTarget) {
     GameState g = shutInTable();
     thinkWith(g, 2, {0.99});

@@ -20,8 +20,7 @@ TEST(ZephGrowth, OnlyTwoHumanWinsInARowRaiseTheLevelUpToMaster) {
         g.zephProgress = int16_t(progress);
         for (char winner : matches)
             creditZephMatch(g, winner == 'h');
-        EXPECT_EQ(std::make_pair(int(g.zephLevel), int(g.zephProgress)),
-                  std::make_pair(levelAfter, progressAfter))
+        EXPECT_EQ(std::tie(g.zephLevel, g.zephProgress), std::tuple(levelAfter, progressAfter))
             << matches << " from level " << level;
     }
 }

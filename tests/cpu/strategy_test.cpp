@@ -8,9 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 using namespace morvane;
 using namespace morvane::testing;
 
@@ -32,11 +29,6 @@ template <typename Search> ShotPlan freshPlan(const GameState& g, Search search)
     return plan;
 }
 
-// What zeph says of the plan that one search finds from scratch.
-template <typename Search> std::string remarkAfter(const GameState& g, Search search) {
-    return remarkOf(freshPlan(g, search)).english;
-}
-
 } // namespace
 
 TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
@@ -46,21 +38,11 @@ TEST(TryDirect, TakesTheSmallestCutOfTheReachableGhostPoints) {
     putBall(g.Balls, 2, 1740, 560); // covers pocket 3's ghost point, off the cue ball's road
     const ShotPlan pocketSix = freshPlan(g, tryDirect);
     EXPECT_NEAR(degrees(pocketSix.cutAngle), 58.59, 0.005);
-
-    ShotPlan equal = startPlan(g); // an equal cut never replaces
-    equal.cutAngle = pocketSix.cutAngle;
-    tryDirect(g, equal);
-    EXPECT_FALSE(equal.found);
-
-    putBall(g.Balls, 2, 1200, 620); // across the roads to both ghost points that are left
-    EXPECT_EQ(remarkAfter(g, tryDirect), "I can do nothing!");
 }
 
-TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysWhichKindOfShotWonLast) {
+TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysSo) {
     GameState g = tableWithCueAt(550, 950);
     putBall(g.Balls, 1, 1450, 500);
-    EXPECT_EQ(remarkAfter(g, tryDirectCombination), "Easy for me.");
-
     // Ball 4 stands before pocket 6: the plain pot at pocket 3 (67.7 degrees) comes first and the
     // combination replaces it.
     putBall(g.Balls, 4, 1900, 300);
@@ -68,8 +50,7 @@ TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysWhichKindOfShotWonLast) {
     expectPlan(combination, 1357.7248f, 538.5394f, 0.4296, 906.4873f, 1006.2306f);
     EXPECT_EQ(combination.strategy, Strategy::DirectCombination);
     EXPECT_TRUE(combination.roadHoldsBall);
-    EXPECT_EQ(remarkAfter(g, tryDirectCombination), "Combination Shot!");
-    EXPECT_NEAR(freshPlan(g, tryDirect).planX, 1360.5573, 0.01); // tryDirect sees no second ball
+    EXPECT_EQ(remarkOf(combination).english, "Combination Shot!");
 }
 
 TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
@@ -78,18 +59,6 @@ TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
     tryObjectBank(g, plan);
     expectPlan(plan, 1702.4210f, 721.8712f, 18.9417, 1109.1370f, 2971.9521f);
     EXPECT_EQ(plan.strategy, Strategy::ObjectBank);
-    EXPECT_EQ(g.pocketTable[8].x, 0) << "the images are zeph's own, not the table's";
-    ShotPlan nearlyStraight = startPlan(g);
-    nearlyStraight.cutAngle = 0.17f; // under 10 degrees no bank can beat it
-    tryObjectBank(g, nearlyStraight);
-    EXPECT_FALSE(nearlyStraight.found);
-
-    putBall(g.Balls, 2, 2190, 612);                           // on the target's road to the image
-    EXPECT_EQ(freshPlan(g, tryObjectBank).planX, plan.planX); // no second ball is worked in
-
-    GameState edge = tableWithCueAt(600, 600);
-    putBall(edge.Balls, 1, 1200, 100); // every ghost point for the images lies near the cushion
-    EXPECT_FALSE(freshPlan(edge, tryObjectBank).found);
 }
 
 TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
@@ -97,9 +66,6 @@ TEST(TryCueBank, FindsTheSmallestCutOverAllPocketsAndCushions) {
     putBall(g.Balls, 1, 2000, 1000);
     // Pocket 2 by way of the right cushion.
     expectPlan(freshPlan(g, tryCueBank), 2350, 928.5712f, 1.2707, 2096.6113f, 813.9410f);
-    EXPECT_NEAR(freshPlan(g, tryCueBankCombination).planY, 928.5712f, 0.01);
-    putBall(g.Balls, 3, 1600, 1080); // before pocket 2
-    EXPECT_TRUE(freshPlan(g, tryCueBankCombination).roadHoldsBall);
 }
 
 TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
@@ -107,10 +73,6 @@ TEST(TryJustHit, TakesTheThinHitWhoseProbeCutsLeastAgainstItsPocket) {
     putBall(g.Balls, 1, 1800, 600);
     // Probe 1, the centre, is blocked by the target; probe 3 against pocket 3 beats probe 2.
     expectPlan(freshPlan(g, tryJustHit), 1769.7165f, 506.7959f, 49.5560, 1173.4268f, 777.8175f);
-    ShotPlan found = startPlan(g);
-    found.found = true;
-    tryJustHit(g, found);
-    EXPECT_EQ(found.planX, g.aimX) << "a plan already found is left alone";
 }
 
 TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
@@ -119,10 +81,6 @@ TEST(TryCushionHit, AimsByTheShortestRoadButKeepsTheRunsOfTheLastFreeCushion) {
     // Left: 4450 in all; right: blocked by the target; top: 3303.4, chosen; bottom: 3303.4 again
     // is not below it, yet its runs are the ones written last.
     expectPlan(freshPlan(g, tryCushionHit), 1300, 1150, 180, 2202.2716f, 1101.1358f);
-
-    GameState mouth = tableWithCueAt(600, 600);
-    putBall(mouth.Balls, 1, 1700, 600); // top and bottom bank points at x = 1150 exactly
-    expectPlan(freshPlan(mouth, tryCushionHit), 50, 600, 180, 2200, 1650);
 }
 
 TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestFreePocket) {
@@ -130,23 +88,8 @@ TEST(PlaceCueBall, WithBallInHandSetsUpAStraightShotAtTheNearestFreePocket) {
     RecordingScreen screen;
     g.ports.screen = &screen;
     g.ballInHand = true;
-    g.controls.qBall.visible = true;
     placeCueBall(g);
     EXPECT_NEAR(g.Balls[0].x, 1800 - 200 * 550 / 710.6335, 1e-3); // behind the target, pocket 3
     EXPECT_NEAR(g.Balls[0].y, 700 - 200 * 450 / 710.6335, 1e-3);
     EXPECT_NEAR(g.aimX, 1800, 1e-3);
-    EXPECT_FALSE(g.controls.qBall.visible);
-    EXPECT_EQ(screen.calls, (std::vector<std::string>{"drawTable", "refreshPool"}));
-    EXPECT_EQ(g.controls.zephsMessage, "My turn.");
-
-    GameState taken = tableWithCueAt(600, 900);
-    putBall(taken.Balls, 1, 1200, 250);
-    putBall(taken.Balls, 2, 1200, 450); // takes the spot for pocket 5
-    placeCueBall(taken);
-    EXPECT_EQ(taken.Balls[0].x, 600) << "stays put without ball in hand";
-    taken.ballInHand = true;
-    placeCueBall(taken);
-    // Pocket 2's spot is (1200, 50), on the cushion line; pocket 4 comes before pocket 6.
-    EXPECT_NEAR(taken.Balls[0].x, 1200 + 200 * 1150 / 1167.2618, 1e-3);
-    EXPECT_NEAR(taken.Balls[0].y, 250 + 200 * 200 / 1167.2618, 1e-3);
 }

@@ -1,4 +1,4 @@
-// The controls of a shot: the power bar, the hit point, the break swing and the shot button.
+// The controls of a shot: the shot button and the break swing.
 #include "game/racking.h"
 #include "game/shot_button.h"
 #include "game/shot_input.h"
@@ -23,58 +23,18 @@ TEST(ShotButton, ArmsTheShotScalesTheHitPointAndHandsTheTableToTheTick) {
     g.pocketedCount = 3;
     g.ballInHand = true;
     g.shotCount = 4;
-    g.controls.target.visible = g.controls.qBall.visible = true;
     setTimerEnabled(g, kTimer2, true);
 
     cmdShot_Click(g);
 
-    EXPECT_EQ(g.Balls[0].spinSide, 3360);
-    EXPECT_EQ(g.Balls[0].spinFollow, 1680);
+    EXPECT_EQ(std::tie(g.Balls[0].spinSide, g.Balls[0].spinFollow), std::tuple(3360, 1680));
     EXPECT_EQ(g.BallsSaved[0].spinSide, 1) << "saved for Back as it was set";
     EXPECT_TRUE(g.ballInHandSaved && !g.ballInHand);
-    EXPECT_EQ(g.shotCount, 5);
-    EXPECT_EQ(g.targetBall, 2);
+    EXPECT_EQ(std::tie(g.shotCount, g.targetBall), std::tuple(5, 2));
     EXPECT_TRUE(g.firstHitBall == 0 && g.firstHitPending && g.pocketedCount == 0);
-    EXPECT_FALSE(g.controls.target.visible || g.controls.qBall.visible);
     EXPECT_FALSE(g.controls.shotEnabled || g.controls.powerEnabled);
     EXPECT_TRUE(isTimerEnabled(g, kTimer1) && isTimerEnabled(g, kTimTimeCounter));
     EXPECT_FALSE(isTimerEnabled(g, kTimer2)) << "the break swing stops";
-}
-
-TEST(PowerBar, CaptionChangesOnlyWhenTheValueDoes) {
-    GameState g;
-    setPower(g, 100);
-    EXPECT_EQ(g.controls.powerCaption, "POWER 100%"); // the form's own caption, one blank
-    setPower(g, 99);
-    EXPECT_EQ(g.controls.powerCaption, "POWER  99%");
-    setPower(g, 100);
-    EXPECT_EQ(g.controls.powerCaption, "POWER  100%");
-    setPower(g, 20);
-    EXPECT_EQ(g.controls.power, 35);
-}
-
-TEST(HitPoint, ClickPlacesTheDotAndSetsSpinByTheSquareOfTheOffsetWithADeadCentre) {
-    struct Case {
-        float x, y; // the click on the 45-pixel ball
-        float side; // the spin it sets
-        float follow;
-        float left; // the dot's corner
-    };
-    const Case cases[] = {
-        {45, 22.5f, 1, 0, 40},         // the right rim
-        {22.5f, 0, 0, 1, 20},          // the top rim: follow
-        {22.5f, 32.5f, 0, -0.25f, 20}, // half way down: a quarter of the draw
-        {0, 22.5f, -1, 0, 0},          // beyond the left rim counts as on it
-        {23.5f, 23.5f, 0, 0, 20},      // 1.41 pixels from the middle
-    };
-    for (const Case& c : cases) {
-        GameState g;
-        picSetPoint_MouseDown(g, 40, 10);
-        picSetPoint_MouseDown(g, c.x, c.y);
-        EXPECT_NEAR(g.Balls[0].spinSide, c.side, 1e-6) << c.x << ", " << c.y;
-        EXPECT_NEAR(g.Balls[0].spinFollow, c.follow, 1e-6) << c.x << ", " << c.y;
-        EXPECT_NEAR(g.controls.pointLeft, c.left, 1e-5) << c.x << ", " << c.y;
-    }
 }
 
 TEST(BreakSwing, AimsOnACircleAroundTheFootSpotWithTheMarkerTenUnitsNearer) {

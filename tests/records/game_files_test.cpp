@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sys/stat.h>
 
 using namespace morvane;
@@ -36,10 +37,9 @@ TEST_F(GameFiles, WhatIsNoFileIsReadAsNothingToldOnceAndNeverSavedOver) {
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(GetPrivateProfileIntA("ZEPH", "LV", 1, file()), 1);
         EXPECT_FALSE(WritePrivateProfileStringA("ZEPH", "LV", " 2", file()));
-        EXPECT_EQ(::testing::internal::GetCapturedStderr(),
-                  "morvane: " + file() + " is " + kind +
-                      ", not a regular file; the defaults are used\nmorvane: could not save " +
-                      file() + " (" + kind + " stands in its place); the change is lost\n");
+        const std::string said = ::testing::internal::GetCapturedStderr();
+        EXPECT_EQ(std::ranges::count(said, '\n'), 2) << "the read and the save each told once";
+        EXPECT_NE(said.find(kind + " stands in its place"), std::string::npos) << said;
         EXPECT_FALSE(std::filesystem::is_regular_file(std::filesystem::symlink_status(file())))
             << "left as it was";
     }
@@ -48,32 +48,10 @@ TEST_F(GameFiles, WhatIsNoFileIsReadAsNothingToldOnceAndNeverSavedOver) {
 }
 
 TEST_F(GameFiles, ALargeFileIsReadUpToTheLimitAndCutAfterItsLastWholeLine) {
-    const std::tuple<std::string, FileRead::Problem, std::string> cases[] = {
-        {"[S]\nkey=1\n" + std::string(100, 'x') + "\nlast=2\n", FileRead::Problem::TooLarge,
-         "[S]\nkey=1\n"},
-        {std::string(19, 'x') + "\n", FileRead::Problem::None, std::string(19, 'x') + "\n"}};
-    for (const auto& [text, problem, kept] : cases) {
-        writeFile("MVSCORE.INI", text);
-        const FileRead read = readSmallFile(file(), 20);
-        EXPECT_EQ(std::tie(read.problem, read.text), std::tie(problem, kept));
-        EXPECT_EQ(read.reason, problem == FileRead::Problem::None ? "" : "20 bytes");
-    }
-}
-
-TEST_F(GameFiles, ASaveReplacesTheFileALinkPointsToAndLeavesAnUnchangedFileAlone) {
-    std::filesystem::create_directory(path("kept"));
-    writeFile("kept/MVSCORE.INI", "[ZEPH]\r\nLV= 1\r\n");
-    std::filesystem::create_symlink(path("kept/MVSCORE.INI"), file());
-    EXPECT_TRUE(WritePrivateProfileStringA("ZEPH", "LV", " 2", file()));
-    EXPECT_TRUE(std::filesystem::is_symlink(file()));
-    EXPECT_EQ(readFile("kept/MVSCORE.INI"), "[ZEPH]\r\nLV= 2\r\n");
-
-    struct stat before {};
-    ASSERT_EQ(::stat(file().c_str(), &before), 0);
-    EXPECT_TRUE(WritePrivateProfileStringA("zeph", "lv", " 2", file()));
-    struct stat after {};
-    ASSERT_EQ(::stat(file().c_str(), &after), 0);
-    EXPECT_EQ(after.st_ino, before.st_ino) << "not replaced";
+    writeFile("MVSCORE.INI", "[S]\nkey=1\n" + std::string(100, 'x') + "\nlast=2\n");
+    const FileRead read = readSmallFile(file(), 20);
+    EXPECT_EQ(std::tie(read.problem, read.reason, read.text),
+              std::tuple(FileRead::Problem::TooLarge, "20 bytes", "[S]\nkey=1\n"));
 }
 
 TEST_F(GameFiles, TheirFolderIsMorvaneHomeElseUnderXdgElseUnderHomeAndIsMade) {

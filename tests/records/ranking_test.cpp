@@ -40,7 +40,7 @@ class Ranking : public ::testing::Test {
             sortSoloRecord(g);
         return entered;
     }
-    bool endMatch(const std::string& name, int youWon, int cpuWon, int level, int seconds = 100) {
+    bool endMatch(const std::string& name, int youWon, int cpuWon, int level, int seconds) {
         g.players[0].name = name;
         g.players[0].gamesWon = int16_t(youWon);
         g.players[1].gamesWon = int16_t(cpuWon);
@@ -69,57 +69,46 @@ TEST_F(Ranking, AGameOnAFreshTableRisesToTheTopWithItsRow) {
     EXPECT_EQ(g.soloRecords[11].place, 10) << "the old row 10 fell out";
 }
 
-TEST_F(Ranking, SoloRowsGoByTurnsThenMoreShotsThenBallsThenTime) {
-    for (auto [name, turns, shots, seconds, balls] : {std::tuple("thirty", 5, 30, 100, 1),
-                                                      {"forty", 5, 40, 100, 1},
-                                                      {"fast", 5, 20, 50, 1},
-                                                      {"moreBalls", 5, 20, 500, 3},
-                                                      {"fewTurns", 2, 2, 3000, 1}})
+// Solo rows go by turns, then more shots, then balls, then time; matches by zeph's level, then
+// wins, then fewer losses, then time, and a match not won never enters.
+TEST_F(Ranking, EachTableHasItsOwnOrder) {
+    // A game: its name, turns, shots, seconds and balls down; a match: its name, wins, losses,
+    // zeph's level and seconds.
+    using Ending = std::tuple<const char*, int, int, int, int>;
+    const Ending games[] = {{"thirty", 5, 30, 100, 1},
+                            {"forty", 5, 40, 100, 1},
+                            {"fast", 5, 20, 50, 1},
+                            {"moreBalls", 5, 20, 500, 3},
+                            {"fewTurns", 2, 2, 3000, 1}};
+    const Ending matches[] = {{"3-0 L4", 3, 0, 4, 100},      {"7-0 L4", 7, 0, 4, 100},
+                              {"3-0 L5", 3, 0, 5, 100},      {"3-2 L6", 3, 2, 6, 100},
+                              {"3-1 L5 long", 3, 1, 5, 300}, {"3-1 L5 short", 3, 1, 5, 200}};
+    for (const auto& [name, turns, shots, seconds, balls] : games)
         ASSERT_TRUE(endSolo(name, turns, shots, seconds, balls));
     EXPECT_EQ(names(g.soloRecords, 6),
               (Names{"fewTurns*", "forty", "thirty", "moreBalls", "fast", "zeph"}));
-}
 
-TEST_F(Ranking, EqualSoloRowsKeepTheirOrderAndAnEqualOfRowTenStaysOut) {
-    for (int i = 0; i < 10; ++i)
-        ASSERT_TRUE(endSolo("old" + std::to_string(i), 4, 20 - i, 200));
-    EXPECT_FALSE(endSolo("sameAsRow10", 4, 11, 200));
-    EXPECT_FALSE(endSolo("moreTurns", 5, 99, 1, 9));
-    ASSERT_TRUE(endSolo("sameAsRow3", 4, 18, 200));
-    EXPECT_EQ(names(g.soloRecords, 5), (Names{"old0", "old1", "old2", "sameAsRow3*", "old3"}));
-    EXPECT_EQ(trimBlanks(g.soloRecords[11].Name), "old9");
-}
-
-TEST_F(Ranking, TheSortTakesANameGivenLaterAndPutsAHandEditedTableRight) {
-    g.soloRecords[3].Turn = 1;
-    g.soloRecords[3].Name = "edited";
-    ASSERT_TRUE(endSolo("asked", 3, 10, 100, 1, false));
-    g.players[0].name = "Given";
-    sortSoloRecord(g);
-    EXPECT_EQ(names(g.soloRecords, 3), (Names{"edited", "Given*", "zeph"}));
-}
-
-TEST_F(Ranking, MatchesGoByLevelThenWinsThenFewerLossesThenTimeAndALostOneNeverEnters) {
-    ASSERT_TRUE(endSolo("solo", 3, 10, 100));
-    g.vsCpuRecords[11].Name = "untouched";
-    EXPECT_FALSE(endMatch("lost", 2, 3, 11));
-    EXPECT_FALSE(endMatch("drawn", 1, 1, 11));
-    EXPECT_EQ(g.vsCpuRecords[11].Name, "untouched") << "the working row left alone";
-    for (auto [name, won, lost, level, seconds] : {std::tuple("3-0 L4", 3, 0, 4, 100),
-                                                   {"7-0 L4", 7, 0, 4, 100},
-                                                   {"3-0 L5", 3, 0, 5, 100},
-                                                   {"3-2 L6", 3, 2, 6, 100},
-                                                   {"3-1 L5 long", 3, 1, 5, 300},
-                                                   {"3-1 L5 short", 3, 1, 5, 200}})
+    EXPECT_FALSE(endMatch("lost", 2, 3, 11, 100));
+    EXPECT_FALSE(endMatch("drawn", 1, 1, 11, 100));
+    for (const auto& [name, won, lost, level, seconds] : matches)
         ASSERT_TRUE(endMatch(name, won, lost, level, seconds));
     EXPECT_EQ(names(g.vsCpuRecords, 6),
               (Names{"3-2 L6", "3-0 L5", "3-1 L5 short*", "3-1 L5 long", "7-0 L4", "3-0 L4"}));
     const VsCpuRecordType& newest = g.vsCpuRecords[3];
     EXPECT_EQ(std::tie(newest.Time, newest.Date, newest.winRate),
               std::tuple(200, "26/03/05", 0.75f));
-    EXPECT_EQ(names(g.soloRecords, 1), Names{"solo"}) << "only the latest insertion stays marked";
-    unmarkNewRows(g);
-    EXPECT_EQ(newest.place, 3);
+    EXPECT_EQ(names(g.soloRecords, 1), Names{"fewTurns"}) << "only the latest entry stays marked";
+}
+
+TEST_F(Ranking, EqualRowsKeepTheirOrderAnEqualOfRowTenStaysOutAndTheSortTakesANameGivenLater) {
+    for (int i = 0; i < 10; ++i)
+        ASSERT_TRUE(endSolo("old" + std::to_string(i), 4, 20 - i, 200));
+    EXPECT_FALSE(endSolo("sameAsRow10", 4, 11, 200));
+    ASSERT_TRUE(endSolo("asked", 4, 18, 200, 1, false));
+    g.players[0].name = "Given";
+    sortSoloRecord(g);
+    EXPECT_EQ(names(g.soloRecords, 5), (Names{"old0", "old1", "old2", "Given*", "old3"}));
+    EXPECT_EQ(trimBlanks(g.soloRecords[11].Name), "old9");
 }
 
 } // namespace

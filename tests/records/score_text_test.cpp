@@ -1,5 +1,4 @@
-// The lines of the record screen: places, counts in the singular and plural, levels, times and
-// the ball marks.
+// The lines of the record screen: places, counts in the singular and plural, levels and times.
 #include "records/score_text.h"
 
 #include <gtest/gtest.h>
@@ -21,40 +20,20 @@ TEST(ScoreText, RowsReadInTheirColumnsAndExactlyOneTakesTheSingular) {
     SoloRecordType solo;
     EXPECT_EQ(texts(soloScoreRow(solo, 3)), (Texts{"10: 3", "40:zeph", "150:0 Shots",
                                                    "230:10 Turns", "400:60:00", "460:98/01/01"}));
-    EXPECT_TRUE(soloScoreRow(solo, 3).ballMarks.empty());
     solo.Shots = solo.Turn = 1;
     EXPECT_EQ(texts(soloScoreRow(solo, 1))[2] + texts(soloScoreRow(solo, 1))[3],
               "150:1 Shot230:1 Turn");
 
     VsCpuRecordType vs;
-    const ScoreRow row = vsCpuScoreRow(vs, 10);
-    EXPECT_EQ(texts(row), (Texts{"10:10", "40:zeph", "150:Level  0", "230: 0 Wins", "305: 0 Losses",
-                                 "400:60:00", "460:98/01/01"}));
-    EXPECT_EQ(row.y, 350);
     vs.YouWon = vs.CPUWon = 1;
     vs.LevelOfZeph = 10;
-    EXPECT_EQ(texts(vsCpuScoreRow(vs, 1)), (Texts{"10: 1", "40:zeph", "150:Level 10", "230: 1 Win",
-                                                  "305: 1 Loss", "400:60:00", "460:98/01/01"}));
+    EXPECT_EQ(texts(vsCpuScoreRow(vs, 10)), (Texts{"10:10", "40:zeph", "150:Level 10", "230: 1 Win",
+                                                   "305: 1 Loss", "400:60:00", "460:98/01/01"}));
     vs.YouWon = 10;
     vs.LevelOfZeph = 11;
     EXPECT_EQ(texts(vsCpuScoreRow(vs, 1))[2] + texts(vsCpuScoreRow(vs, 1))[3],
               "150:Master!230:10 Wins");
-}
-
-TEST(ScoreText, TimesAreMinutesAndSecondsInTwoPlacesAtLeast) {
-    for (const auto& [seconds, text] :
-         {std::pair(75, "01:15"), {3600, "60:00"}, {6000, "100:00"}, {0, "00:00"}})
-        EXPECT_EQ(minutesAndSeconds(int16_t(seconds)), text);
-}
-
-TEST(ScoreText, MarksFollowTheBallNumbersOfThePlacesNotZeroAndOnlyTheNewRowIsMarked) {
-    EXPECT_EQ(ballMarks("010000001"), (std::vector<int>{2, 9}));
-    EXPECT_EQ(ballMarks("111111111"), (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9}));
-    SoloRecordType solo;
-    solo.place = 11;
-    EXPECT_TRUE(soloScoreRow(solo, 10).isNew);
-    solo.place = 10;
-    EXPECT_FALSE(soloScoreRow(solo, 10).isNew);
+    EXPECT_EQ(minutesAndSeconds(75) + minutesAndSeconds(6000), "01:15100:00");
 }
 
 } // namespace

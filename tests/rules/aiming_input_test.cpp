@@ -1,4 +1,4 @@
-// The mouse on the table view: the aim, the cue ball in hand, the grab circle.
+// The mouse on the table view: the aim dragged and let go, and the break that ignores it.
 #include "game/view_coords.h"
 #include "rules/aiming_input.h"
 #include "support/table_setup.h"
@@ -11,7 +11,6 @@ using namespace morvane::testing;
 namespace {
 
 constexpr int kLeft = 1;
-constexpr int kRight = 2;
 
 struct Aiming : ::testing::Test {
     GameState g;
@@ -19,40 +18,18 @@ struct Aiming : ::testing::Test {
         setTable(g, {{0, 600, 600}, {1, 1790, 600}});
         g.breakPending = false;
     }
-    float cueX() const { return tableToPixelX(g.Balls[0].x); }
-    float cueY() const { return tableToPixelY(g.Balls[0].y); }
 };
 
-TEST_F(Aiming, EitherButtonAimsADragMovesTheAimUnclampedAndTheReleasePullsItInside) {
-    picPool_MouseDown(g, kRight, 200, 200);
-    EXPECT_FLOAT_EQ(g.aimY, pixelToTableY(200));
+TEST_F(Aiming, ADragMovesTheAimUnclampedAndTheReleasePullsItInside) {
     picPool_MouseDown(g, kLeft, 300, 100);
-    EXPECT_FLOAT_EQ(g.aimX, pixelToTableX(300));
     picPool_MouseMove(g, kLeft, 530, 5);
     EXPECT_FLOAT_EQ(g.aimX, pixelToTableX(530));
-    EXPECT_FLOAT_EQ(g.controls.target.left, 520);
     picPool_MouseUp(g, kLeft, 530, 5);
-    EXPECT_FLOAT_EQ(g.aimX, kCushionRightX);
-    EXPECT_FLOAT_EQ(g.aimY, kCushionTopY);
+    EXPECT_EQ(std::make_pair(g.aimX, g.aimY), std::make_pair(kCushionRightX, kCushionTopY));
     EXPECT_FLOAT_EQ(g.controls.target.left, 490);
 }
 
-TEST_F(Aiming, TheCueBallInHandIsTakenOnlyStrictlyInsideItsRadius) {
-    g.ballInHand = true;
-    picPool_MouseDown(g, kLeft, cueX() + 10, cueY()); // exactly 50 units away
-    EXPECT_FALSE(g.draggingCueBall);
-    EXPECT_FLOAT_EQ(g.aimX, 650);
-    picPool_MouseDown(g, kLeft, cueX() + 9, cueY());
-    EXPECT_TRUE(g.draggingCueBall);
-    EXPECT_FLOAT_EQ(g.Balls[0].x, 645);
-}
-
-TEST_F(Aiming, NothingMovesOnTheBreakFarFromTheCueBallOrWithNoButton) {
-    g.controls.lblMenuHover = {true, false, false};
-    picPool_MouseMove(g, 0, 300, 100);
-    EXPECT_EQ(g.controls.lblMenuHover, (std::array<bool, 3>{false, false, false}));
-    EXPECT_EQ(g.aimX, 0);
-
+TEST_F(Aiming, NothingMovesOnTheBreak) {
     g.breakPending = true;
     picPool_MouseDown(g, kLeft, 400, 100);
     picPool_MouseMove(g, kLeft, 420, 120);

@@ -21,39 +21,23 @@ class Modes : public RulesTest {
     }
 };
 
-TEST_F(Modes, ThePlayButtonsHideTheMenuAndShowTheLabelsOfTheirMode) {
-    picSoloPlay_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_FALSE(g.controls.menuVisible);
-    EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, true, true}));
-    EXPECT_EQ(g.bgmScene, 2);
-
-    backToMenu(g);
+// Solo Play and the menu label are clicked through the window in the shell's tests.
+TEST_F(Modes, PlayAgainstZephIsAMatchToThreeAndTheChangeOfModeTurnsItIntoASoloGame) {
     g.matchTarget = 7;
     picVSCPU_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeVersus);
-    EXPECT_EQ(g.matchTarget, 3);
-    EXPECT_EQ(g.players[1].name, "zeph");
-    EXPECT_FALSE(g.controls.mnuStartEnabled);
-    EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{true, false, false}));
-    EXPECT_EQ(g.bgmScene, 3);
+    EXPECT_EQ(std::tie(g.gameMode, g.matchTarget, g.players[1].name, g.bgmScene),
+              std::tuple(kModeVersus, 3, "zeph", 3));
+    mnuChangeMode_Click(g);
+    EXPECT_EQ(std::tie(g.gameMode, g.controls.mnuStartEnabled), std::tuple(kModeSolo, true));
 
-    mnuChangeMode_Click(g); // and back to a solo game
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(g.controls.mnuStartEnabled);
-
-    lblMenu_Click(g, 0); // the menu label leaves the game for the menu and its music
-    EXPECT_TRUE(g.controls.menuVisible);
-    EXPECT_TRUE(isTimerEnabled(g, kTimDemo));
-    EXPECT_EQ(g.bgmScene, 0);
-
+    backToMenu(g);
     screen.onChangeVsMode = [this] { g.gameMode = kModeMenu; }; // Cancel on the set-up form
     picVSPlay_Click(g, 0);
-    EXPECT_TRUE(g.controls.menuVisible);
-    EXPECT_EQ(g.bgmScene, 4) << "the scene is set whatever the form said";
+    EXPECT_EQ(std::tie(g.controls.menuVisible, g.bgmScene), std::tuple(true, 4))
+        << "the scene is set whatever the form said";
 }
 
-TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndStartKeepsCounting) {
+TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndAClickOnTheTableEndsIt) {
     mnuStart_click(g); // Start from the menu keeps the menu mode, so the count goes on
     EXPECT_FALSE(g.controls.menuVisible);
     for (int second = 1; second <= 30; ++second)
@@ -62,19 +46,8 @@ TEST_F(Modes, TheDemoStartsOnTheThirtyFirstIdleSecondAndStartKeepsCounting) {
     timDemo_Timer(g);
     EXPECT_EQ(g.gameMode, kModeDemo);
     EXPECT_TRUE(isTimerEnabled(g, kTimCom));
-    EXPECT_EQ(g.controls.lblMenuVisible, (std::array<bool, 3>{false, false, false}));
-    timDemo_Timer(g);
-    EXPECT_EQ(g.demoCounter, 0);
-}
 
-TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRollButNotASoloGame) {
-    picSoloPlay_Click(g, 0);
-    setTimerEnabled(g, kTimer1, true);
-    picPool_Click(g, 0);
-    EXPECT_EQ(g.gameMode, kModeSolo);
-    EXPECT_TRUE(isTimerEnabled(g, kTimer1));
-
-    startDemo(g);
+    // A click on the table ends it, even while balls roll.
     setTimerEnabled(g, kTimer1, true);
     picPool_Click(g, 0);
     EXPECT_EQ(g.gameMode, kModeMenu);
@@ -82,7 +55,7 @@ TEST_F(Modes, AClickOnTheTableEndsTheDemoEvenWhileBallsRollButNotASoloGame) {
     EXPECT_TRUE(g.breakPending);
 }
 
-TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnewButAMatchGoesOn) {
+TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnew) {
     startDemo(g);
     g.breakPending = false;
     for (int shot = 1; shot <= 29; ++shot)
@@ -94,44 +67,23 @@ TEST_F(Modes, ADemoGameThatPotsNothingForThirtyShotsInARowIsRackedAnewButAMatchG
         missEverything();
     EXPECT_FALSE(g.breakPending);
     missEverything();
-    EXPECT_TRUE(g.breakPending) << "racked anew";
-    EXPECT_EQ(g.shotCount, 0);
+    EXPECT_EQ(std::tie(g.breakPending, g.shotCount), std::tuple(true, 0)) << "racked anew";
     EXPECT_TRUE(isTimerEnabled(g, kTimCom)) << "zeph breaks the new rack";
-
-    g.gameMode = kModeVersus;
-    g.versusCpu = false;
-    g.breakPending = false;
-    for (int shot = 1; shot <= 40; ++shot)
-        missEverything();
-    EXPECT_FALSE(g.breakPending);
-    EXPECT_EQ(g.foulCount, 40);
 }
 
-TEST(MatchSetupForm, OpensWithTrimmedNamesTheLengthWithNoBlankAndOnlyZephLocked) {
+TEST(MatchSetupForm, OnlyZephsNameIsLockedAndCancelLeavesNoMatchAgainstZeph) {
     GameState g;
-    nameSides(g, "  Ann ", "zeph");
-    g.matchTarget = 1;
-    const MatchSetupView view = loadMatchSetup(g);
-    EXPECT_EQ(view.firstName, "Ann");
-    EXPECT_EQ(view.secondName, "zeph");
-    EXPECT_FALSE(view.secondNameEditable);
-    EXPECT_EQ(view.lengthCaption, "1Wins Match") << "until the spin button moves";
-    EXPECT_EQ(view.matchLength, 1);
+    nameSides(g, "Ann", "zeph");
+    EXPECT_FALSE(loadMatchSetup(g).secondNameEditable);
     g.players[1].name = "Zeph";
     EXPECT_TRUE(loadMatchSetup(g).secondNameEditable);
-}
 
-TEST(MatchSetupForm, CancelLeavesNoMatchAgainstZephAndHeadsForTheMenu) {
-    GameState g;
     g.gameMode = kModeVersus;
     g.versusCpu = true;
     g.controls.mnuStartEnabled = false;
     changeVsModeCancel(g);
-    EXPECT_FALSE(g.versusCpu);
-    EXPECT_EQ(g.gameMode, kModeMenu);
-    EXPECT_TRUE(g.controls.mnuStartEnabled);
-    EXPECT_EQ(g.controls.shotCaption, "SHOT!");
-    EXPECT_EQ(g.controls.mnuChangeModeCaption, "独り撞き→対戦(&M)");
+    EXPECT_EQ(std::tie(g.versusCpu, g.gameMode, g.controls.mnuStartEnabled),
+              std::tuple(false, kModeMenu, true));
 }
 
 } // namespace

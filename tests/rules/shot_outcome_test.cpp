@@ -13,49 +13,36 @@ class ShotOutcome_ : public RulesTest {};
 TEST_F(ShotOutcome_, APotOnALegalShotKeepsTheTurnAndAShotThatPotsNothingEndsIt) {
     setTable(g, {{0, 1800, 600}, {1, 2200, 1000}, {9, 1000, 300}});
     shootToRest(2200, 1000, 35);
-    EXPECT_FALSE(g.Balls[1].onTable);
-    EXPECT_EQ(g.turnCount, 0);
+    EXPECT_EQ(std::tie(g.Balls[1].onTable, g.turnCount, g.controls.mnuRetryEnabled),
+              std::tuple(false, 0, true));
     EXPECT_TRUE(screen.messages.empty());
-    EXPECT_TRUE(g.controls.mnuRetryEnabled);
 
     setTable(g, {{0, 600, 600}, {1, 1200, 600}, {9, 1000, 1000}});
     shootToRest(1200, 600, 35);
-    EXPECT_EQ(g.turnCount, 1);
-    EXPECT_EQ(g.foulCount, 0);
-    EXPECT_FALSE(g.ballInHand);
+    EXPECT_EQ(std::tie(g.turnCount, g.foulCount, g.ballInHand), std::tuple(1, 0, false));
 }
 
 TEST_F(ShotOutcome_, TouchingNothingIsAMissWithBallInHandWhereTheCueBallStopped) {
     missEverything();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"You missed !"});
-    EXPECT_EQ(g.foulCount, 1);
-    EXPECT_TRUE(g.ballInHand);
-    EXPECT_EQ(g.Balls[0].x, 600);
+    EXPECT_EQ(std::tie(g.foulCount, g.ballInHand, g.Balls[0].x), std::tuple(1, true, 600));
     EXPECT_NE(g.Balls[0].y, 600);
 }
 
 TEST_F(ShotOutcome_, TheNineOnAFoulComesBackToTheFootSpot) {
     setTable(g, {{0, 1200, 800}, {1, 300, 300}, {9, 1200, 1000}});
     shootToRest(1200, 1000, 60);
-    EXPECT_TRUE(g.Balls[9].onTable);
-    EXPECT_EQ(g.Balls[9].x, 1800);
-    EXPECT_EQ(g.Balls[9].y, 600);
+    EXPECT_EQ(std::tie(g.Balls[9].onTable, g.Balls[9].x, g.Balls[9].y),
+              std::tuple(true, 1800, 600));
 }
 
-TEST_F(ShotOutcome_, AFoulInAMatchNamesTheShooterAndInTheDemoNoOneAndBackIsNotOffered) {
+TEST_F(ShotOutcome_, AFoulInAMatchNamesTheShooterAndBackIsNotOffered) {
     matchAgainst("Bob", false);
     g.turnCount = 1;
     missEverything();
     EXPECT_EQ(screen.messages, std::vector<std::string>{"Bob missed!"});
-    EXPECT_EQ(g.controls.shotCaption, "Your Shot");
-    EXPECT_FALSE(g.controls.mnuRetryEnabled);
-
-    screen.messages.clear(); // in the demo no message, and zeph shoots next
-    g.gameMode = kModeDemo;
-    missEverything();
-    EXPECT_TRUE(screen.messages.empty());
-    EXPECT_TRUE(isTimerEnabled(g, kTimCom));
-    EXPECT_FALSE(g.controls.shotEnabled);
+    EXPECT_EQ(std::tie(g.controls.shotCaption, g.controls.mnuRetryEnabled),
+              std::tuple("Your Shot", false));
 }
 
 // Puts back the balls that fell, in this order, on a table holding the others; gives the table.
@@ -66,17 +53,13 @@ GameState respotted(const std::vector<BallPlace>& standing, const std::vector<in
         g.pocketedThisShot[k] = fallen[k];
     g.pocketedCount = int16_t(fallen.size());
     respotBalls(g);
-    for (int16_t n : fallen)
-        EXPECT_TRUE(g.Balls[n].onTable);
     return g;
 }
 
-TEST(Respot, ObjectBallsComeBackInTheOrderOfFallingAlongTheFootLineThenTowardTheHead) {
+TEST(Respot, ObjectBallsComeBackAlongTheFootLineAndTheCueBallAboutTheHeadSpot) {
     const GameState free = respotted({{0, 600, 600}}, {3, 1, 2});
-    EXPECT_EQ(free.Balls[3].x, 1800);
-    EXPECT_EQ(free.Balls[1].x, 1900);
-    EXPECT_EQ(free.Balls[2].x, 2000);
-    EXPECT_EQ(free.Balls[2].prevX, 2000);
+    EXPECT_EQ(std::tie(free.Balls[3].x, free.Balls[1].x, free.Balls[2].x),
+              std::tuple(1800, 1900, 2000));
 
     std::vector<BallPlace> line = {{0, 600, 600}};
     for (int n = 1; n <= 5; ++n)
@@ -84,13 +67,10 @@ TEST(Respot, ObjectBallsComeBackInTheOrderOfFallingAlongTheFootLineThenTowardThe
     EXPECT_EQ(respotted(line, {9}).Balls[9].x, 2300) << "the line's last place";
     line.push_back({6, 2300, 600});
     EXPECT_EQ(respotted(line, {9}).Balls[9].x, 1700) << "the line full";
-}
 
-TEST(Respot, TheCueBallGoesToTheHeadSpotElseTheNearestFreePlaceAboveThenBelowIt) {
-    const GameState free = respotted({{5, 1200, 900}}, {0});
-    EXPECT_EQ(std::make_pair(free.Balls[0].x, free.Balls[0].y), std::make_pair(600.0f, 600.0f));
-    std::vector<BallPlace> taken = {{5, 600, 600}};
-    for (const float y : {700.0f, 500.0f, 800.0f}) {
+    // The cue ball goes to the head spot, else the nearest free place above, then below it.
+    std::vector<BallPlace> taken;
+    for (const float y : {600.0f, 700.0f, 500.0f, 800.0f}) {
         EXPECT_EQ(respotted(taken, {0}).Balls[0].y, y);
         taken.push_back({int(taken.size()) + 5, 600, y});
     }
@@ -98,25 +78,23 @@ TEST(Respot, TheCueBallGoesToTheHeadSpotElseTheNearestFreePlaceAboveThenBelowIt)
 
 // The cue ball in a pocket is judged first, then the first ball hit, then the nine.
 TEST(Judging, CueBallInAPocketThenAMissThenTheNine) {
-    struct Case {
-        bool cueOn;
-        bool nineOn;
-        int16_t firstHit;
-        ShotOutcome outcome;
-    };
+    // Whether the cue ball and the nine still stand, the first ball hit (the target is 1), and
+    // the outcome.
+    using Case = std::tuple<bool, bool, int16_t, ShotOutcome>;
     const Case cases[] = {
-        {false, true, 1, ShotOutcome::CueBallFoul}, {false, false, 0, ShotOutcome::CueBallFoul},
-        {true, true, 0, ShotOutcome::MissFoul},     {true, false, 0, ShotOutcome::MissFoul},
-        {true, false, 1, ShotOutcome::GameOver},    {true, true, 1, ShotOutcome::Legal},
+        {false, false, 0, ShotOutcome::CueBallFoul},
+        {true, false, 0, ShotOutcome::MissFoul},
+        {true, false, 1, ShotOutcome::GameOver},
+        {true, true, 1, ShotOutcome::Legal},
     };
-    for (const Case& c : cases) {
+    for (const auto& [cueOn, nineOn, firstHit, outcome] : cases) {
         GameState g;
         setTable(g, {{1, 900, 900}});
-        g.Balls[0].onTable = c.cueOn;
-        g.Balls[9].onTable = c.nineOn;
-        g.firstHitBall = c.firstHit;
+        g.Balls[0].onTable = cueOn;
+        g.Balls[9].onTable = nineOn;
+        g.firstHitBall = firstHit;
         g.targetBall = 1;
-        EXPECT_EQ(judgeShot(g), c.outcome) << c.cueOn << c.nineOn << c.firstHit;
+        EXPECT_EQ(judgeShot(g), outcome) << cueOn << nineOn << firstHit;
     }
 }
 
