@@ -50,7 +50,7 @@ TEST(TryDirectCombination, PlaysTheBlockingBallAndSaysSo) {
     expectPlan(combination, 1357.7248f, 538.5394f, 0.4296, 906.4873f, 1006.2306f);
     EXPECT_EQ(combination.strategy, Strategy::DirectCombination);
     EXPECT_TRUE(combination.roadHoldsBall);
-    EXPECT_EQ(remarkOf(combination).english, "Combination Shot!");
+    EXPECT_STREQ(remarkOf(combination).english, "Combination Shot!");
 }
 
 TEST(TryObjectBank, BanksTheWorkedTableOffTheRightCushionIntoPocketSix) {
