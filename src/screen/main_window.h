@@ -90,7 +90,6 @@ class MainWindow : public QWidget {
     std::array<int, 3> shownHover_{-1, -1, -1};  // the colour each label shows: 1 hover
     std::optional<ControlsState> shownControls_; // what the controls were last brought to
     bool syncing_ = false;
-    // The game clock when the markers were last shown: long ago at first.
 };
 
 } // namespace morvane

@@ -58,7 +58,7 @@ QImage outlinePicture(QRgb colour, qreal ratio) {
 } // namespace
 
 // The outline with its top left corner at the marker's place. The swing moves the aim's outline
-// a hundred times a second, and the raster engine draws an ellipse far slower than it copies a
+// every frame, and the raster engine draws an ellipse far slower than it copies a
 // picture of one; at a whole pixel ratio the copy has the very pixels the ellipse would have.
 void PoolView::drawMarker(QPainter& painter, const MarkerState& marker, QRgb colour) {
     if (!marker.visible)

@@ -70,6 +70,31 @@ void fireOnce(GameState& g, TimerId id, int64_t nowMs) {
         t.dueAt = nowMs + t.interval; // a late tick is not made up
 }
 
+// The first tick of the swing due a whole frame or more after the last one it ran.
+int64_t nextSwingFrame(const TimerState& swing) {
+    const int64_t lastTick = swing.dueAt - swing.interval;
+    int64_t due = swing.dueAt;
+    while (due - lastTick < kFrameMs)
+        due += swing.interval;
+    return due;
+}
+
+// The soonest of the due times that `dueOf` gives the timers that may fire, or -1 when none may.
+template <typename DueOf> int64_t soonestDue(const GameState& g, DueOf dueOf) {
+    int64_t best = -1;
+    for (int i = 0; i < kTimerCount; ++i) {
+        if (!mayFire(g, TimerId(i)))
+            continue;
+        const int64_t due = dueOf(TimerId(i));
+        if (best < 0 || due < best)
+            best = due;
+    }
+    // A swing back from its rest is overdue: it fires now, not back then.
+    if (best >= 0 && best < g.nowMs)
+        best = g.nowMs;
+    return best;
+}
+
 } // namespace
 
 void initTimers(GameState& g) {
@@ -117,35 +142,6 @@ void runDueTimers(GameState& g, int64_t nowMs) {
 bool isTimerDue(const GameState& g, TimerId timer, int64_t nowMs) {
     return mayFire(g, timer) && g.timers[timer].dueAt <= nowMs;
 }
-
-namespace {
-
-// The first tick of the swing due a whole frame or more after the last one it ran.
-int64_t nextSwingFrame(const TimerState& swing) {
-    const int64_t lastTick = swing.dueAt - swing.interval;
-    int64_t due = swing.dueAt;
-    while (due - lastTick < kFrameMs)
-        due += swing.interval;
-    return due;
-}
-
-// The soonest of the due times that `dueOf` gives the timers that may fire, or -1 when none may.
-template <typename DueOf> int64_t soonestDue(const GameState& g, DueOf dueOf) {
-    int64_t best = -1;
-    for (int i = 0; i < kTimerCount; ++i) {
-        if (!mayFire(g, TimerId(i)))
-            continue;
-        const int64_t due = dueOf(TimerId(i));
-        if (best < 0 || due < best)
-            best = due;
-    }
-    // A swing back from its rest is overdue: it fires now, not back then.
-    if (best >= 0 && best < g.nowMs)
-        best = g.nowMs;
-    return best;
-}
-
-} // namespace
 
 int64_t nextDueTime(const GameState& g) {
     return soonestDue(g, [&](TimerId id) { return g.timers[id].dueAt; });

@@ -9,7 +9,7 @@
 //
 // A window need not wake for every tick of the swing: a screen shows a new frame only every
 // 16.7 ms at 60 Hz, and the swing moves nothing but the aim marker. It wakes for the swing once a
-// frame, and the ticks it slept through are carried on then, each a tick of its own.
+// frame, and the ticks it slept through carry the swing's phase on then, as a late tick's do.
 #pragma once
 
 #include "game/game_state.h"
